@@ -1,0 +1,88 @@
+// Handle table of the soft engine. A handle encodes the object's kind, a slot and the slot's
+// generation, so deleted, foreign and wrongly-typed handles are recognised and ignored instead of
+// reaching freed memory. Live objects are counted by kind so tests can prove nothing leaks.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace glyphon::win::soft {
+
+enum class ObjectKind : std::uint8_t {
+  None = 0,
+  Dc,
+  Bitmap,
+  Pen,
+  Brush,
+  Font,
+  Palette,
+  Icon,
+  Window,
+  Count
+};
+
+struct Object {
+  explicit Object(ObjectKind k) : kind(k) {}
+  virtual ~Object() = default;
+  Object(const Object&) = delete;
+  Object& operator=(const Object&) = delete;
+
+  const ObjectKind kind;
+  bool stock = false;          // never deleted, not counted
+  int selectionCount = 0;      // device contexts it is selected into
+  bool deletePending = false;  // deleted while selected: freed when the last DC lets go
+};
+
+using LiveCounts = std::array<int, static_cast<std::size_t>(ObjectKind::Count)>;
+
+class ObjectTable {
+ public:
+  ObjectTable() = default;
+  ObjectTable(const ObjectTable&) = delete;
+  ObjectTable& operator=(const ObjectTable&) = delete;
+
+  // Takes ownership and returns the handle value, or 0 when the table is full.
+  std::uintptr_t Add(std::unique_ptr<Object> object);
+
+  // The live object behind a handle value, or null when it is not one of ours.
+  Object* Find(std::uintptr_t handle) const;
+
+  template <class T>
+  T* Find(std::uintptr_t handle, ObjectKind kind) const {
+    Object* object = Find(handle);
+    return object != nullptr && object->kind == kind ? static_cast<T*>(object) : nullptr;
+  }
+
+  // Frees the object; false for unknown handles and stock objects.
+  bool Remove(std::uintptr_t handle);
+
+  const LiveCounts& Counts() const { return counts_; }
+
+  // Calls f(handle, object) for each live object (used to broadcast to windows).
+  template <class F>
+  void ForEach(ObjectKind kind, F&& f) const {
+    for (std::size_t i = 0; i < slots_.size(); ++i) {
+      const Slot& slot = slots_[i];
+      if (slot.object && slot.object->kind == kind) f(Encode(i, slot), slot.object.get());
+    }
+  }
+
+ private:
+  struct Slot {
+    std::unique_ptr<Object> object;
+    std::uint8_t generation = 0;
+  };
+  static constexpr unsigned kIndexBits = 20;
+  static constexpr unsigned kGenerationBits = 8;
+  static constexpr std::size_t kMaxSlots = (std::size_t{1} << kIndexBits) - 1;
+
+  static std::uintptr_t Encode(std::size_t index, const Slot& slot);
+
+  std::vector<Slot> slots_;
+  std::vector<std::uint32_t> freeSlots_;
+  LiveCounts counts_{};
+};
+
+}  // namespace glyphon::win::soft

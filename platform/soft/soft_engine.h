@@ -1,0 +1,86 @@
+// The portable engine: GDI, USER and the OLE colour bits implemented in software, pixel-exact to
+// GDI for everything but glyph shapes. One instance serves one thread.
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "platform/engine.h"
+#include "platform/soft/gdi_objects.h"
+#include "platform/soft/object_table.h"
+
+namespace glyphon::win::soft {
+
+class TextSystem;
+class UserSystem;
+
+using SystemColors = std::array<COLORREF, SYSTEM_COLOR_COUNT>;
+
+// The classic scheme the engine starts with.
+const SystemColors& ClassicSystemColors();
+
+class SoftEngine final : public Engine {
+ public:
+  SoftEngine();
+  ~SoftEngine() override;
+
+#define GLYPHON_DECLARE_OVERRIDE(ret, name, params, args) ret name params override;
+  GLYPHON_WIN32_FUNCTIONS(GLYPHON_DECLARE_OVERRIDE)
+#undef GLYPHON_DECLARE_OVERRIDE
+
+  // ---- Services beyond Win32, for hosts and tests ----
+
+  // Live objects by kind, stock objects excluded.
+  const LiveCounts& LiveObjectCounts() const { return objects_.Counts(); }
+
+  // Replaces the system colour table; every window is sent WM_SYSCOLORCHANGE.
+  void SetSystemColors(const SystemColors& colors);
+
+  // The virtual screen that GetDC(0) draws on.
+  void SetScreenSize(int width, int height);
+  const std::shared_ptr<Pixmap>& Screen() const { return screen_; }
+
+  // ---- Internals shared by the engine's parts ----
+
+  ObjectTable& Objects() { return objects_; }
+  DcObject* Dc(HDC hdc) const;
+  BitmapObject* Bitmap(HBITMAP bitmap) const;
+  PenObject* Pen(HPEN pen) const;
+  BrushObject* Brush(HBRUSH brush) const;
+  FontObject* Font(HFONT font) const;
+  PaletteObject* Palette(HPALETTE palette) const;
+  IconObject* Icon(HICON icon) const;
+
+  // Adds a record to the handle table and returns its handle (null when the table is full).
+  template <class Handle>
+  Handle AddObject(std::unique_ptr<Object> object) {
+    return reinterpret_cast<Handle>(objects_.Add(std::move(object)));
+  }
+
+  // A new DC of the given kind with the stock objects selected and drawing onto surface.
+  HDC NewDc(DcKind kind, std::shared_ptr<Pixmap> surface, HWND window);
+  HBITMAP DefaultBitmap() const { return defaultBitmap_; }
+
+  TextSystem& Text() { return *text_; }
+  UserSystem& User() { return *user_; }
+
+ private:
+  void CreateStockObjects();
+  HGDIOBJ SelectInto(DcObject& dc, HGDIOBJ& slot, HGDIOBJ object);
+  void Release(HGDIOBJ object);
+  void ReleaseSelections(DcObject& dc);
+
+  ObjectTable objects_;
+  SystemColors systemColors_;
+  std::array<HGDIOBJ, DC_PEN + 1> stockObjects_{};
+  std::array<HBRUSH, SYSTEM_COLOR_COUNT> systemColorBrushes_{};
+  HBITMAP defaultBitmap_ = nullptr;
+  std::shared_ptr<Pixmap> screen_;
+  std::unique_ptr<TextSystem> text_;
+  std::unique_ptr<UserSystem> user_;
+};
+
+// The calling thread's soft engine, created on first use.
+SoftEngine& ThreadSoftEngine();
+
+}  // namespace glyphon::win::soft

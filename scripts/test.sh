@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and runs the whole test suite.
+#   scripts/test.sh              release build (warnings are errors under CI)
+#   scripts/test.sh --sanitize   the same suite under AddressSanitizer and UBSan
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/install-deps.sh
+
+preset=release
+[ -n "${CI:-}" ] && preset=ci
+if [ "${1:-}" = "--sanitize" ]; then
+  preset=asan
+  [ -n "${CI:-}" ] && preset=ci-asan
+fi
+
+cmake --preset "$preset" >/dev/null
+cmake --build --preset "$preset"
+ctest --preset "$preset" --parallel "$(nproc)"
