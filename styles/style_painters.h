@@ -1,0 +1,15 @@
+// The two style passes of a repaint: the face before the content, the frame over it.
+#pragma once
+
+#include <cstdint>
+
+#include "content/button_view.h"
+
+namespace glyphon {
+
+class Canvas;
+
+void PaintBackground(Canvas& canvas, const ButtonView& button, std::int32_t drawState);
+void PaintFrame(Canvas& canvas, const ButtonView& button, std::int32_t drawState);
+
+}  // namespace glyphon
