@@ -4,11 +4,6 @@
 
 namespace glyphon::win::soft {
 
-HBITMAP SoftEngine::CreateDIBSection(HDC, const BITMAPINFO*, UINT, void**, void*, DWORD) { return {}; }
-UINT SoftEngine::SetDIBColorTable(HDC, UINT, UINT, const RGBQUAD*) { return {}; }
-UINT SoftEngine::GetDIBColorTable(HDC, UINT, UINT, RGBQUAD*) { return {}; }
-int SoftEngine::GetDIBits(HDC, HBITMAP, UINT, UINT, void*, BITMAPINFO*, UINT) { return {}; }
-int SoftEngine::SetDIBits(HDC, HBITMAP, UINT, UINT, const void*, const BITMAPINFO*, UINT) { return {}; }
 BOOL SoftEngine::LineTo(HDC, int, int) { return {}; }
 BOOL SoftEngine::Rectangle(HDC, int, int, int, int) { return {}; }
 BOOL SoftEngine::RoundRect(HDC, int, int, int, int, int, int) { return {}; }

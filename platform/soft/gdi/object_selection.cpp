@@ -105,13 +105,14 @@ int SoftEngine::GetObjectA(HGDIOBJ object, int size, void* buffer) {
       }
       section.dsBm.bmWidthBytes = pixels.Stride();
       section.dsBm.bmBits = const_cast<std::uint8_t*>(pixels.Bits());
-      if (buffer != nullptr && size < static_cast<int>(sizeof(DIBSECTION))) {
+      if (buffer == nullptr || size < static_cast<int>(sizeof(DIBSECTION))) {
         return CopyOut(section.dsBm, std::min(size, static_cast<int>(sizeof(BITMAP))), buffer);
       }
       BITMAPINFOHEADER& h = section.dsBmih;
       h.biSize = sizeof(BITMAPINFOHEADER);
       h.biWidth = pixels.Width();
-      h.biHeight = pixels.TopDown() ? -pixels.Height() : pixels.Height();
+      // GDI reports the height positive even for top-down sections.
+      h.biHeight = pixels.Height();
       h.biPlanes = 1;
       h.biBitCount = static_cast<WORD>(pixels.BitsPerPixel());
       h.biCompression = BI_RGB;

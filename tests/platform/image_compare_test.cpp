@@ -1,0 +1,120 @@
+#include "tests/support/image_compare.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <cstring>
+
+#include "tests/support/leak_check.h"
+
+namespace glyphon::testing {
+namespace {
+
+using namespace win;
+
+class ImageCompare : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    dir_ = std::filesystem::path(::testing::TempDir()) / "image_compare_test";
+    std::filesystem::remove_all(dir_);
+    std::filesystem::create_directories(dir_);
+  }
+  void TearDown() override { std::filesystem::remove_all(dir_); }
+
+  static Image Checker() {
+    Image image = Image::Blank(4, 3);
+    for (int y = 0; y < 3; ++y) {
+      for (int x = 0; x < 4; ++x) {
+        std::uint8_t* p = image.Pixel(x, y);
+        p[0] = p[1] = p[2] = (x + y) % 2 ? 255 : 0;
+        p[3] = 255;
+      }
+    }
+    return image;
+  }
+
+  std::filesystem::path dir_;
+};
+
+TEST_F(ImageCompare, ReportsCountAndFirstDifference) {
+  Image actual = Checker();
+  EXPECT_TRUE(ImagesEqual(actual, Checker()));
+  actual.Pixel(2, 1)[2] = 0x12;  // red channel of (2, 1)
+  actual.Pixel(3, 2)[0] = 0x34;
+  const auto result = ImagesEqual(actual, Checker());
+  EXPECT_FALSE(result);
+  EXPECT_STREQ(result.message(), "2 of 12 pixels differ; first at (2, 1): #12FFFFFF, expected #FFFFFFFF");
+  EXPECT_STREQ(ImagesEqual(Image::Blank(2, 2), Checker()).message(), "size is 2x2, expected 4x3");
+}
+
+TEST_F(ImageCompare, MismatchWritesActualAndDiffNextToExpected) {
+  LeakCheck leaks;
+  const auto expected = dir_ / "shape.png";
+  ASSERT_TRUE(WritePngFile(Checker(), expected));
+
+  // A bitmap showing the checker except one pixel.
+  BITMAPINFO info{};
+  info.bmiHeader = {sizeof(BITMAPINFOHEADER), 4, -3, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  void* bits = nullptr;
+  HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  ASSERT_NE(bitmap, nullptr);
+  std::memcpy(bits, Checker().bgra.data(), 4 * 3 * 4);
+  EXPECT_TRUE(BitmapMatchesPng(bitmap, expected));
+  EXPECT_FALSE(std::filesystem::exists(ActualPathFor(expected)));
+
+  static_cast<std::uint8_t*>(bits)[0] = 7;
+  const auto result = BitmapMatchesPng(bitmap, expected);
+  EXPECT_FALSE(result);
+  EXPECT_NE(std::string(result.message()).find("1 of 12 pixels differ; first at (0, 0)"),
+            std::string::npos) << result.message();
+  const auto actual = ReadPngFile(ActualPathFor(expected));
+  ASSERT_TRUE(actual);
+  EXPECT_EQ(actual->Pixel(0, 0)[0], 7);
+  const auto diff = ReadPngFile(DiffPathFor(expected));
+  ASSERT_TRUE(diff);
+  EXPECT_EQ(diff->Pixel(0, 0)[2], 255);  // the differing pixel is red
+  EXPECT_EQ(diff->Pixel(0, 0)[1], 0);
+  EXPECT_EQ(diff->Pixel(1, 0)[0], diff->Pixel(1, 0)[2]);  // equal pixels are grey
+  DeleteObject(bitmap);
+}
+
+TEST_F(ImageCompare, MissingExpectedImageFailsUnlessUpdating) {
+  LeakCheck leaks;
+  const auto expected = dir_ / "new.png";
+  HBITMAP bitmap = CreateBitmap(2, 2, 1, 32, nullptr);
+  const auto result = BitmapMatchesPng(bitmap, expected);
+  EXPECT_FALSE(result);
+  EXPECT_TRUE(std::filesystem::exists(ActualPathFor(expected)));
+
+  ::setenv("GLYPHON_UPDATE_GOLDEN", "1", 1);
+  EXPECT_TRUE(BitmapMatchesPng(bitmap, expected));
+  ::unsetenv("GLYPHON_UPDATE_GOLDEN");
+  EXPECT_TRUE(BitmapMatchesPng(bitmap, expected));
+  DeleteObject(bitmap);
+}
+
+TEST_F(ImageCompare, ComparesBitmapsAndDcAreas) {
+  LeakCheck leaks;
+  HBITMAP a = CreateBitmap(3, 3, 1, 32, nullptr);
+  HBITMAP b = CreateBitmap(3, 3, 1, 32, nullptr);
+  EXPECT_TRUE(BitmapsEqual(a, b));
+  const std::uint32_t white[9] = {0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF,
+                                  0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF};
+  SetBitmapBits(b, sizeof white, white);
+  EXPECT_FALSE(BitmapsEqual(a, b));
+
+  HDC dc = CreateCompatibleDC(nullptr);
+  HGDIOBJ old = SelectObject(dc, b);
+  const auto area = dir_ / "area.png";
+  ASSERT_TRUE(WritePngFile(Image::Blank(2, 1), area));
+  const RECT inside{1, 1, 3, 2};
+  EXPECT_FALSE(DcAreaMatchesPng(dc, inside, area));  // white, not transparent black
+  EXPECT_FALSE(DcAreaMatchesPng(dc, RECT{2, 2, 4, 3}, area));  // leaves the bitmap
+  SelectObject(dc, old);
+  DeleteDC(dc);
+  DeleteObject(a);
+  DeleteObject(b);
+}
+
+}  // namespace
+}  // namespace glyphon::testing
