@@ -4,17 +4,6 @@
 
 namespace glyphon::win::soft {
 
-BOOL SoftEngine::LineTo(HDC, int, int) { return {}; }
-BOOL SoftEngine::Rectangle(HDC, int, int, int, int) { return {}; }
-BOOL SoftEngine::RoundRect(HDC, int, int, int, int, int, int) { return {}; }
-BOOL SoftEngine::Ellipse(HDC, int, int, int, int) { return {}; }
-int SoftEngine::FillRect(HDC, const RECT*, HBRUSH) { return {}; }
-int SoftEngine::FrameRect(HDC, const RECT*, HBRUSH) { return {}; }
-COLORREF SoftEngine::SetPixel(HDC, int, int, COLORREF) { return CLR_INVALID; }
-BOOL SoftEngine::SetPixelV(HDC, int, int, COLORREF) { return {}; }
-COLORREF SoftEngine::GetPixel(HDC, int, int) { return CLR_INVALID; }
-BOOL SoftEngine::ExtFloodFill(HDC, int, int, COLORREF, UINT) { return {}; }
-BOOL SoftEngine::DrawFocusRect(HDC, const RECT*) { return {}; }
 BOOL SoftEngine::PatBlt(HDC, int, int, int, int, DWORD) { return {}; }
 BOOL SoftEngine::BitBlt(HDC, int, int, int, int, HDC, int, int, DWORD) { return {}; }
 BOOL SoftEngine::StretchBlt(HDC, int, int, int, int, HDC, int, int, int, int, DWORD) { return {}; }

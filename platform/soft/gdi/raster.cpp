@@ -1,6 +1,8 @@
 #include "platform/soft/gdi/raster.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <cstring>
 
 #include "platform/soft/soft_engine.h"
@@ -26,6 +28,23 @@ RECT ClipToSurface(const Pixmap& surface, const RECT& rect) {
                std::min<LONG>(rect.bottom, surface.Height())};
   if (IsEmptyRect(clipped)) clipped = RECT{0, 0, 0, 0};
   return clipped;
+}
+
+RECT BlitRect(int x, int y, int width, int height) {
+  auto span = [](long long start, long long extent, LONG& low, LONG& high) {
+    long long a = start, b = start + extent;
+    if (a > b) {
+      const long long t = a;
+      a = b + 1;
+      b = t + 1;
+    }
+    low = static_cast<LONG>(std::clamp<long long>(a, INT32_MIN, INT32_MAX));
+    high = static_cast<LONG>(std::clamp<long long>(b, INT32_MIN, INT32_MAX));
+  };
+  RECT rect{};
+  span(x, width, rect.left, rect.right);
+  span(y, height, rect.top, rect.bottom);
+  return rect;
 }
 
 RopMasks Rop2Masks(int rop2, PixelValue pen) {
@@ -59,6 +78,12 @@ PixelValue PenPixel(const Pixmap& surface, COLORREF color, COLORREF backgroundCo
   return color == backgroundColor ? background : background ^ 1u;
 }
 
+PixelValue GapPixel(const Pixmap& surface, COLORREF color, PixelValue penPixel,
+                    COLORREF backgroundColor) {
+  if (surface.BitsPerPixel() != 1) return DevicePixel(surface, backgroundColor);
+  return color == backgroundColor ? penPixel : penPixel ^ 1u;
+}
+
 // ---- Brushes ----------------------------------------------------------------------------------
 
 namespace {
@@ -72,6 +97,32 @@ constexpr std::uint8_t kHatches[6][8] = {
     {0x08, 0x08, 0x08, 0xFF, 0x08, 0x08, 0x08, 0x08},  // HS_CROSS
     {0x81, 0x42, 0x24, 0x18, 0x18, 0x24, 0x42, 0x81},  // HS_DIAGCROSS
 };
+
+// Ordered-dither threshold matrices of side 2^k, built by the usual recursion.
+template <int Side>
+constexpr std::array<std::array<std::uint8_t, Side>, Side> BayerMatrix() {
+  std::array<std::array<std::uint8_t, Side>, Side> m{};
+  if constexpr (Side == 1) {
+    m[0][0] = 0;
+  } else {
+    constexpr auto half = BayerMatrix<Side / 2>();
+    constexpr int offsets[2][2] = {{0, 2}, {3, 1}};
+    for (int y = 0; y < Side; ++y) {
+      for (int x = 0; x < Side; ++x) {
+        m[y][x] = static_cast<std::uint8_t>(4 * half[y % (Side / 2)][x % (Side / 2)] +
+                                            offsets[y / (Side / 2)][x / (Side / 2)]);
+      }
+    }
+  }
+  return m;
+}
+constexpr auto kBayer8 = BayerMatrix<8>();
+constexpr auto kBayer16 = BayerMatrix<16>();
+
+bool IsBlackOrWhite(COLORREF color) {
+  const COLORREF rgb = color & 0x00FFFFFFu;
+  return rgb == RGB(0, 0, 0) || rgb == RGB(255, 255, 255);
+}
 
 }  // namespace
 
@@ -97,21 +148,32 @@ void BrushPixels::Allocate(int width, int height, bool withCoverage) {
 }
 
 void BrushPixels::ResolveSolid(COLORREF color, const RasterTarget& target) {
+  if (target.monochromeDevice && !IsBlackOrWhite(color)) {
+    ResolveDither(color);
+    return;
+  }
   kind_ = Kind::Solid;
   solid_ = PenPixel(*target.surface, color, target.dc->attributes.backgroundColor);
+}
+
+// GDI's monochrome dither of a solid colour: white wherever the colour's grey level, on a 0-64
+// scale, beats the 8x8 ordered threshold.
+void BrushPixels::ResolveDither(COLORREF color) {
+  const int grey = (30 * GetRValue(color) + 59 * GetGValue(color) + 11 * GetBValue(color) + 200) /
+                   400;
+  Allocate(8, 8, false);
+  for (int y = 0; y < 8; ++y) {
+    for (int x = 0; x < 8; ++x) {
+      values_[static_cast<std::size_t>(y * 8 + x)] = grey + kBayer8[y][x] > 63 ? 1u : 0u;
+    }
+  }
 }
 
 void BrushPixels::ResolveHatch(int hatch, COLORREF color, const RasterTarget& target) {
   const DcAttributes& dc = target.dc->attributes;
   const Pixmap& surface = *target.surface;
   const PixelValue line = PenPixel(surface, color, dc.backgroundColor);
-  // On one bit per pixel the background is the line's opposite unless both colours are equal.
-  PixelValue background;
-  if (surface.BitsPerPixel() != 1) {
-    background = DevicePixel(surface, dc.backgroundColor);
-  } else {
-    background = color == dc.backgroundColor ? line : line ^ 1u;
-  }
+  const PixelValue background = GapPixel(surface, color, line, dc.backgroundColor);
   const bool transparent = dc.backgroundMode == TRANSPARENT;
   Allocate(8, 8, transparent);
   for (int y = 0; y < 8; ++y) {
@@ -136,12 +198,24 @@ void BrushPixels::ResolvePattern(const Pixmap& pattern, const RasterTarget& targ
     monochrome[0] = DevicePixel(surface, dc.textColor);
     monochrome[1] = DevicePixel(surface, dc.backgroundColor);
   }
+  // Colour patterns are dithered onto one bit per pixel by their grey level.
+  const bool dither = !monoPattern && surface.BitsPerPixel() == 1;
   for (int y = 0; y < height_; ++y) {
     for (int x = 0; x < width_; ++x) {
       const PixelValue source = pattern.GetPixel(x, y);
-      values_[static_cast<std::size_t>(y * width_ + x)] =
-          monoPattern ? monochrome[source & 1u]
-                      : DevicePixel(surface, pattern.PixelToColor(source));
+      PixelValue value;
+      if (monoPattern) {
+        value = monochrome[source & 1u];
+      } else {
+        COLORREF color = pattern.PixelToColor(source);
+        if (dither) {
+          const int grey = (30 * GetRValue(color) + 59 * GetGValue(color) +
+                            11 * GetBValue(color)) / 100;
+          color = grey + kBayer16[y % 16][x % 16] > 255 ? RGB(255, 255, 255) : RGB(0, 0, 0);
+        }
+        value = DevicePixel(surface, color);
+      }
+      values_[static_cast<std::size_t>(y * width_ + x)] = value;
     }
   }
 }

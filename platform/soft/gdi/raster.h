@@ -39,6 +39,10 @@ inline bool IsEmptyRect(const RECT& rect) {
   return rect.left >= rect.right || rect.top >= rect.bottom;
 }
 
+// The pixels a block transfer of width x height at (x, y) covers: a negative extent mirrors the
+// area around the start pixel, so (10, 0, -5, 5) covers columns 6 to 10.
+RECT BlitRect(int x, int y, int width, int height);
+
 // ---- ROP2 -------------------------------------------------------------------------------------
 
 // A foreground mix with a fixed pen value, reduced to result = (destination & andMask) ^ xorMask.
@@ -67,6 +71,12 @@ PixelValue DevicePixel(const Pixmap& surface, COLORREF color);
 // colour takes its nearest entry and every other colour takes the opposite one.
 PixelValue PenPixel(const Pixmap& surface, COLORREF color, COLORREF backgroundColor);
 
+// The pixel a pen or hatch paints its gaps with (OPAQUE background mode), given its own pixel:
+// the background colour, except at 1 bpp where it is the opposite of the pen's pixel unless the
+// two colours are equal.
+PixelValue GapPixel(const Pixmap& surface, COLORREF color, PixelValue penPixel,
+                    COLORREF backgroundColor);
+
 // ---- Brushes ----------------------------------------------------------------------------------
 
 // One row of a resolved brush: position x (surface coordinates) paints values[x mod period], and
@@ -85,7 +95,8 @@ struct BrushRow {
 };
 
 // A brush resolved against one DC's state for one target surface: the device pixel value it gives
-// each position. Patterns (hatches, pattern bitmaps) are aligned to the surface origin. Hatched
+// each position. Patterns (hatches, pattern bitmaps, dithers) are aligned to the surface origin.
+// Solid colours other than black and white are dithered on monochrome device bitmaps. Hatched
 // brushes paint their background pixels in the DC's background colour when the background mode is
 // OPAQUE and leave them alone when it is TRANSPARENT; a monochrome pattern bitmap takes the DC's
 // text colour for 0 bits and background colour for 1 bits. A null brush record (deleted or invalid
@@ -107,6 +118,7 @@ class BrushPixels {
  private:
   enum class Kind { Null, Solid, Pattern };
   void ResolveSolid(COLORREF color, const RasterTarget& target);
+  void ResolveDither(COLORREF color);
   void ResolveHatch(int hatch, COLORREF color, const RasterTarget& target);
   void ResolvePattern(const Pixmap& pattern, const RasterTarget& target);
   void Allocate(int width, int height, bool withCoverage);

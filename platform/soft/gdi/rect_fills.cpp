@@ -1,0 +1,60 @@
+// USER's FillRect and FrameRect: pattern copies with a given brush, whatever the DC's mix.
+#include <algorithm>
+#include <cstdint>
+
+#include "platform/soft/gdi/raster.h"
+#include "platform/soft/soft_engine.h"
+
+namespace glyphon::win::soft {
+
+namespace {
+
+// USER also takes a system colour index plus one in place of a brush.
+const BrushObject* FillBrush(SoftEngine& engine, HBRUSH brush) {
+  const auto value = reinterpret_cast<std::uintptr_t>(brush);
+  if (value >= 1 && value <= static_cast<std::uintptr_t>(SYSTEM_COLOR_COUNT)) {
+    brush = engine.GetSysColorBrush(static_cast<int>(value - 1));
+  }
+  return engine.Brush(brush);
+}
+
+int Extent(LONG from, LONG to) {
+  return static_cast<int>(std::clamp<long long>(static_cast<long long>(to) - from, INT32_MIN,
+                                                INT32_MAX));
+}
+
+void PatCopy(const RasterTarget& target, const BrushPixels& brush, int x, int y, int width,
+             int height) {
+  BrushRect(*target.surface, BlitRect(x, y, width, height), brush, R2_COPYPEN);
+}
+
+}  // namespace
+
+int SoftEngine::FillRect(HDC hdc, const RECT* rect, HBRUSH brush) {
+  const BrushObject* record = FillBrush(*this, brush);
+  if (rect == nullptr || Dc(hdc) == nullptr || record == nullptr) return 0;
+  const RasterTarget target = ResolveTarget(*this, hdc);
+  if (target) {
+    PatCopy(target, BrushPixels(record, target), rect->left, rect->top,
+            Extent(rect->left, rect->right), Extent(rect->top, rect->bottom));
+  }
+  return 1;
+}
+
+int SoftEngine::FrameRect(HDC hdc, const RECT* rect, HBRUSH brush) {
+  const BrushObject* record = FillBrush(*this, brush);
+  if (rect == nullptr || Dc(hdc) == nullptr || record == nullptr) return 0;
+  if (rect->right <= rect->left || rect->bottom <= rect->top) return 0;
+  const RasterTarget target = ResolveTarget(*this, hdc);
+  if (target) {
+    const BrushPixels pixels(record, target);
+    const int width = Extent(rect->left, rect->right), height = Extent(rect->top, rect->bottom);
+    PatCopy(target, pixels, rect->left, rect->top, 1, height);
+    PatCopy(target, pixels, rect->right - 1, rect->top, 1, height);
+    PatCopy(target, pixels, rect->left, rect->top, width, 1);
+    PatCopy(target, pixels, rect->left, rect->bottom - 1, width, 1);
+  }
+  return 1;
+}
+
+}  // namespace glyphon::win::soft
