@@ -1,0 +1,159 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
+
+#include "platform/win32.h"
+#include "tests/platform/raster_surface.h"
+#include "tests/support/leak_check.h"
+
+namespace glyphon::win {
+namespace {
+
+using testing::LeakCheck;
+using testing::RasterSurface;
+using Picture = std::vector<std::string>;
+
+constexpr COLORREF kRed = RGB(255, 0, 0);
+
+TEST(Rectangle, OutlinesWithThePenAndFillsTheInsideExclusively) {
+  LeakCheck leaks;
+  RasterSurface s(7, 6);
+  s.UseBrush(CreateSolidBrush(kRed));
+  EXPECT_TRUE(Rectangle(s.dc(), 6, 5, 1, 1));  // corners in any order
+  const Picture expected = {
+      ".......", ".#####.", ".#rrr#.", ".#rrr#.", ".#####.", ".......",
+  };
+  EXPECT_EQ(s.Picture({{kRed, 'r'}}), expected);
+}
+
+TEST(Rectangle, NullPenFillsOneRowAndColumnLessAndNullBrushLeavesTheInside) {
+  LeakCheck leaks;
+  RasterSurface s(7, 6);
+  s.UseBrush(CreateSolidBrush(kRed));
+  SelectObject(s.dc(), GetStockObject(NULL_PEN));
+  Rectangle(s.dc(), 1, 1, 6, 5);
+  Picture expected = {
+      ".......", ".rrrr..", ".rrrr..", ".rrrr..", ".......", ".......",
+  };
+  EXPECT_EQ(s.Picture({{kRed, 'r'}}), expected);
+
+  s.Clear(RGB(255, 255, 255));
+  s.UsePen(PS_SOLID, 1, RGB(0, 0, 0));
+  SelectObject(s.dc(), GetStockObject(NULL_BRUSH));
+  Rectangle(s.dc(), 1, 1, 6, 5);
+  EXPECT_EQ(s.Picture()[2], ".#...#.");
+  // No area, nothing drawn.
+  s.Clear(RGB(255, 255, 255));
+  Rectangle(s.dc(), 3, 1, 3, 5);
+  Rectangle(s.dc(), 1, 2, 6, 2);
+  EXPECT_EQ(s.Picture(), Picture(6, "......."));
+}
+
+TEST(Rectangle, DotsRunAnticlockwiseFromTheTopRightCorner) {
+  LeakCheck leaks;
+  RasterSurface s(8, 6);
+  s.UsePen(PS_DOT, 1, RGB(0, 0, 0));
+  SelectObject(s.dc(), GetStockObject(NULL_BRUSH));
+  Rectangle(s.dc(), 0, 0, 8, 6);
+  const Picture expected = {
+      "##...###", "#.......", "........", "........", ".......#", "###...##",
+  };
+  EXPECT_EQ(s.Picture(), expected);
+}
+
+TEST(Rectangle, WideOutlinePaintsEachPixelOnceAroundTheInterior) {
+  LeakCheck leaks;
+  RasterSurface s(12, 10);
+  s.UsePen(PS_SOLID, 3, RGB(0, 0, 0));
+  SelectObject(s.dc(), GetStockObject(NULL_BRUSH));
+  SetROP2(s.dc(), R2_NOT);  // a pixel painted twice would turn white again
+  Rectangle(s.dc(), 2, 2, 10, 8);
+  const Picture outline = {
+      "............", "..########..", ".##########.", ".##########.", ".###....###.",
+      ".###....###.", ".##########.", ".##########.", "..########..", "............",
+  };
+  EXPECT_EQ(s.Picture(), outline);
+
+  s.Clear(RGB(255, 255, 255));
+  SetROP2(s.dc(), R2_COPYPEN);
+  s.UseBrush(CreateSolidBrush(kRed));
+  Rectangle(s.dc(), 2, 2, 10, 8);
+  EXPECT_EQ(s.Picture({{kRed, 'r'}})[4], ".###rrrr###.");
+}
+
+TEST(Rectangle, InsideFramePensStayInsideTheRectangle) {
+  LeakCheck leaks;
+  RasterSurface s(14, 14);
+  s.UsePen(PS_INSIDEFRAME, 4, RGB(0, 0, 0));
+  SelectObject(s.dc(), GetStockObject(NULL_BRUSH));
+  Rectangle(s.dc(), 2, 2, 12, 12);
+  const Picture p = s.Picture();
+  for (int y = 0; y < 14; ++y) {
+    for (int x = 0; x < 14; ++x) {
+      if (x < 2 || x >= 12 || y < 2 || y >= 12) {
+        EXPECT_EQ(p[y][x], '.') << x << "," << y;
+      }
+    }
+  }
+  EXPECT_EQ(p[6].substr(2, 10), "####..####");
+}
+
+TEST(Ellipse, SmallCircleOutlineOverItsFill) {
+  LeakCheck leaks;
+  RasterSurface s(5, 5);
+  s.UseBrush(CreateSolidBrush(kRed));
+  Ellipse(s.dc(), 0, 0, 5, 5);
+  const Picture expected = {".###.", "#rrr#", "#rrr#", "#rrr#", ".###."};
+  EXPECT_EQ(s.Picture({{kRed, 'r'}}), expected);
+}
+
+TEST(RoundRect, CornersFollowTheEllipseAndTinyCornersGiveARectangle) {
+  LeakCheck leaks;
+  RasterSurface s(8, 6);
+  s.UseBrush(CreateSolidBrush(kRed));
+  RoundRect(s.dc(), 0, 0, 8, 6, 4, 4);
+  const Picture rounded = {
+      ".######.", "#rrrrrr#", "#rrrrrr#", "#rrrrrr#", "#rrrrrr#", ".######.",
+  };
+  EXPECT_EQ(s.Picture({{kRed, 'r'}}), rounded);
+  s.Clear(RGB(255, 255, 255));
+  RoundRect(s.dc(), 0, 0, 8, 6, 2, 9);
+  EXPECT_EQ(s.Picture({{kRed, 'r'}})[0], "########");
+}
+
+TEST(RoundRect, ShapesAreSymmetricAndClosed) {
+  LeakCheck leaks;
+  for (const auto& [w, h, ew, eh] : {std::array{15, 11, 15, 15}, std::array{16, 9, 6, 5},
+                                     std::array{9, 14, 9, 14}, std::array{20, 20, 7, 13}}) {
+    RasterSurface s(w, h);
+    SelectObject(s.dc(), GetStockObject(NULL_BRUSH));
+    RoundRect(s.dc(), 0, 0, w, h, ew, eh);
+    const Picture p = s.Picture();
+    for (int y = 0; y < h; ++y) {
+      std::string mirrored = p[y];
+      std::reverse(mirrored.begin(), mirrored.end());
+      EXPECT_EQ(p[y], mirrored) << w << "x" << h << " row " << y;
+      EXPECT_EQ(p[y], p[h - 1 - y]) << w << "x" << h << " row " << y;
+      EXPECT_NE(p[y].find('#'), std::string::npos) << w << "x" << h << " row " << y;
+    }
+    // The outline reaches all four sides of the bounding box.
+    EXPECT_NE(p[0].find('#'), std::string::npos);
+    EXPECT_EQ(p[h / 2][0], '#');
+    EXPECT_EQ(p[h / 2][w - 1], '#');
+  }
+}
+
+TEST(Shapes, BadDcsAreRefused) {
+  LeakCheck leaks;
+  HDC dc = CreateCompatibleDC(nullptr);
+  DeleteDC(dc);
+  EXPECT_FALSE(Rectangle(dc, 0, 0, 4, 4));
+  EXPECT_FALSE(Ellipse(dc, 0, 0, 4, 4));
+  EXPECT_FALSE(RoundRect(nullptr, 0, 0, 4, 4, 2, 2));
+}
+
+}  // namespace
+}  // namespace glyphon::win
