@@ -17,13 +17,6 @@ HICON SoftEngine::CreateIconIndirect(ICONINFO *) { return {}; }
 BOOL SoftEngine::GetIconInfo(HICON, ICONINFO*) { return {}; }
 BOOL SoftEngine::DestroyIcon(HICON) { return {}; }
 BOOL SoftEngine::DrawIconEx(HDC, int, int, HICON, int, int, UINT, HBRUSH, UINT) { return {}; }
-HFONT SoftEngine::CreateFontA(int, int, int, int, int, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, LPCSTR) { return {}; }
-HFONT SoftEngine::CreateFontIndirectA(const LOGFONTA*) { return {}; }
-BOOL SoftEngine::GetTextMetricsA(HDC, TEXTMETRICA*) { return {}; }
-int SoftEngine::GetTextFaceA(HDC, int, LPSTR) { return {}; }
-BOOL SoftEngine::GetTextExtentPoint32A(HDC, LPCSTR, int, SIZE*) { return {}; }
-BOOL SoftEngine::TextOutA(HDC, int, int, LPCSTR, int) { return {}; }
-int SoftEngine::DrawTextA(HDC, LPCSTR, int, RECT*, UINT) { return {}; }
 ATOM SoftEngine::RegisterClassA(const WNDCLASSA*) { return {}; }
 BOOL SoftEngine::UnregisterClassA(LPCSTR, HINSTANCE) { return {}; }
 HWND SoftEngine::CreateWindowExA(DWORD, LPCSTR, LPCSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, void*) { return {}; }
