@@ -1,7 +1,8 @@
 #include "platform/soft/text/glyph_painter.h"
 
 #include <algorithm>
-#include <cstring>
+
+#include "platform/soft/gdi/raster.h"
 
 namespace glyphon::win::soft {
 
@@ -18,35 +19,30 @@ std::uint8_t Blend(int source, int destination, int alpha) {
 
 }  // namespace
 
-GlyphPainter::GlyphPainter(Pixmap& target, const RECT& clip, COLORREF textColor)
+GlyphPainter::GlyphPainter(Pixmap& target, const RECT& clip, COLORREF textColor,
+                           COLORREF backgroundColor)
     : target_(target),
-      clip_{std::max<LONG>(clip.left, 0), std::max<LONG>(clip.top, 0),
-            std::min<LONG>(clip.right, target.Width()), std::min<LONG>(clip.bottom, target.Height())},
+      clip_(ClipToSurface(target, clip)),
       textColor_(textColor),
-      textPixel_(target.ColorToPixel(textColor)) {}
+      textPixel_(PenPixel(target, textColor, backgroundColor)),
+      backgroundPixel_(DevicePixel(target, backgroundColor)) {}
 
-void GlyphPainter::Fill(int left, int top, int right, int bottom, COLORREF color) {
-  left = std::max<int>(left, clip_.left);
-  top = std::max<int>(top, clip_.top);
-  right = std::min<int>(right, clip_.right);
-  bottom = std::min<int>(bottom, clip_.bottom);
-  if (left >= right || top >= bottom) return;
-  const PixelValue pixel = target_.ColorToPixel(color);
-  const int depth = target_.BitsPerPixel();
-  for (int y = top; y < bottom; ++y) {
-    std::uint8_t* row = target_.Row(y);
-    if (depth == 32) {
-      for (int x = left; x < right; ++x) std::memcpy(row + x * 4, &pixel, 4);
-    } else if (depth == 24) {
-      for (int x = left; x < right; ++x) {
-        row[x * 3] = static_cast<std::uint8_t>(pixel);
-        row[x * 3 + 1] = static_cast<std::uint8_t>(pixel >> 8);
-        row[x * 3 + 2] = static_cast<std::uint8_t>(pixel >> 16);
-      }
-    } else {
-      for (int x = left; x < right; ++x) target_.SetPixel(x, y, pixel);
-    }
-  }
+void GlyphPainter::FillBackground(int left, int top, int right, int bottom) {
+  Fill(RECT{left, top, right, bottom}, backgroundPixel_, R2_COPYPEN);
+}
+
+void GlyphPainter::FillText(int left, int top, int right, int bottom, int rop2) {
+  Fill(RECT{left, top, right, bottom}, textPixel_, rop2);
+}
+
+void GlyphPainter::Fill(RECT area, PixelValue pixel, int rop2) {
+  area.left = std::max(area.left, clip_.left);
+  area.top = std::max(area.top, clip_.top);
+  area.right = std::min(area.right, clip_.right);
+  area.bottom = std::min(area.bottom, clip_.bottom);
+  if (IsEmptyRect(area)) return;
+  const RopMasks masks = Rop2Masks(rop2, pixel);
+  for (int y = area.top; y < area.bottom; ++y) MixSpan(target_, y, area.left, area.right, masks);
 }
 
 void GlyphPainter::Draw(const Glyph& glyph, int x, int baselineY) {
@@ -62,8 +58,9 @@ void GlyphPainter::Draw(const Glyph& glyph, int x, int baselineY) {
   // Device pixel bytes at 24 and 32 bits are blue, green, red.
   const int red = GetRValue(textColor_), green = GetGValue(textColor_), blue = GetBValue(textColor_);
   for (int y = top; y < bottom; ++y) {
-    const std::uint8_t* coverage =
-        glyph.coverage + static_cast<std::ptrdiff_t>(y - glyphTop) * glyph.width + (left - glyphLeft);
+    const std::uint8_t* coverage = glyph.coverage +
+                                   static_cast<std::ptrdiff_t>(y - glyphTop) * glyph.width +
+                                   (left - glyphLeft);
     std::uint8_t* row = target_.Row(y);
     for (int px = left; px < right; ++px) {
       const int alpha = coverage[px - left];

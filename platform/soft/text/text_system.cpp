@@ -172,10 +172,8 @@ void TextSystem::PaintLine(DcObject& dc, const RealizedFont& font, const LayoutL
   Pixmap& target = *dc.surface;
   const DcAttributes& a = dc.attributes;
   const TEXTMETRICA& tm = font.Metrics();
-  GlyphPainter painter(target, clip, a.textColor);
-  if (a.backgroundMode == OPAQUE) {
-    painter.Fill(x, top, x + line.width, top + tm.tmHeight, a.backgroundColor);
-  }
+  GlyphPainter painter(target, clip, a.textColor, a.backgroundColor);
+  if (a.backgroundMode == OPAQUE) painter.FillBackground(x, top, x + line.width, top + tm.tmHeight);
   const int baseline = top + tm.tmAscent;
   int penX = x;
   int keyX = x;
@@ -192,13 +190,14 @@ void TextSystem::PaintLine(DcObject& dc, const RealizedFont& font, const LayoutL
   for (const auto& [present, stroke] : {std::pair{font.Underlined(), font.Underline()},
                                         std::pair{font.StruckOut(), font.StrikeOut()}}) {
     if (present) {
-      painter.Fill(x, baseline + stroke.offset, x + line.width,
-                   baseline + stroke.offset + stroke.thickness);
+      painter.FillText(x, baseline + stroke.offset, x + line.width,
+                       baseline + stroke.offset + stroke.thickness);
     }
   }
   if (line.accessKey < 0) return;
-  // USER underlines the access key with a one-pixel pen one row below the ascent, from the
-  // character's left edge to one pixel short of its advance; only the text rectangle limits it.
+  // USER underlines the access key with a one-pixel pen (so under the DC's ROP2) one row below
+  // the ascent, from the character's left edge to one pixel short of its advance; only the text
+  // rectangle limits it.
   int from = keyX;
   int to = keyX + keyAdvance - 1;
   const int keyY = baseline + 1;
@@ -210,7 +209,8 @@ void TextSystem::PaintLine(DcObject& dc, const RealizedFont& font, const LayoutL
     from = std::max<int>(from, keyClip->left);
     to = std::min<int>(to, keyClip->right);
   }
-  GlyphPainter(target, kUnclipped, a.textColor).Fill(from, keyY, to, keyY + 1);
+  GlyphPainter(target, kUnclipped, a.textColor, a.backgroundColor)
+      .FillText(from, keyY, to, keyY + 1, a.rop2);
 }
 
 }  // namespace glyphon::win::soft
