@@ -1,6 +1,8 @@
 #include "platform/soft/gdi/cosmetic_line.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 
 #include "platform/soft/gdi/region_shapes.h"
@@ -119,6 +121,52 @@ Point64 Crop(POINT p) {
   return q;
 }
 
+// Steps through pixels along a line, by word offsets on 32-bpp surfaces.
+class PixelWalk {
+ public:
+  PixelWalk(Pixmap& surface, int x, int y, int stepX, int stepY)
+      : surface_(surface), x_(x), y_(y), stepX_(stepX), stepY_(stepY) {
+    if (surface.BitsPerPixel() == 32) {
+      words_ = reinterpret_cast<std::uint32_t*>(surface.Bits());
+      rowStep_ = (surface.TopDown() ? 1 : -1) * static_cast<std::ptrdiff_t>(surface.Stride() / 4);
+      at_ = (surface.Row(y) - surface.Bits()) / 4 + x;
+      step_ = stepX + stepY * rowStep_;
+    }
+  }
+
+  // Mixes count pixels from the current one onwards and moves past them.
+  void Mix(long long count, const RopMasks& masks) {
+    if (words_ != nullptr) {
+      if (!masks.IsNop()) {
+        std::ptrdiff_t at = at_;
+        for (long long i = 0; i < count; ++i, at += step_) words_[at] = masks.Apply(words_[at]);
+      }
+      at_ += step_ * static_cast<std::ptrdiff_t>(count);
+    } else {
+      for (long long i = 0; i < count; ++i) {
+        MixPixel(surface_, x_, y_, masks);
+        x_ += stepX_;
+        y_ += stepY_;
+      }
+    }
+  }
+
+  void Move(int dx, int dy) {
+    if (words_ != nullptr) {
+      at_ += dx + dy * rowStep_;
+    } else {
+      x_ += dx;
+      y_ += dy;
+    }
+  }
+
+ private:
+  Pixmap& surface_;
+  int x_, y_, stepX_, stepY_;
+  std::uint32_t* words_ = nullptr;
+  std::ptrdiff_t at_ = 0, rowStep_ = 0, step_ = 0;
+};
+
 }  // namespace
 
 CosmeticLine::CosmeticLine(Pixmap& surface, const RopMasks& pen, const RopMasks& gap,
@@ -129,14 +177,14 @@ CosmeticLine::CosmeticLine(Pixmap& surface, const RopMasks& pen, const RopMasks&
 
 void CosmeticLine::Skip(long long pixels) {
   if (pattern_ == nullptr) return;
-  pixels %= pattern_->total;
+  if (pixels >= pattern_->total) pixels %= pattern_->total;
   do {
     if (dash_.left > pixels) {
       dash_.left -= pixels;
       return;
     }
     pixels -= dash_.left;
-    dash_.index = (dash_.index + 1) % pattern_->count;
+    if (++dash_.index == pattern_->count) dash_.index = 0;
     dash_.left = pattern_->dashes[dash_.index];
     dash_.mark = !dash_.mark;
   } while (pixels != 0);
@@ -164,17 +212,15 @@ void CosmeticLine::Straight(long long from, long long to, long long fixed, bool 
     const long long last = std::min(length - 1, step > 0 ? limit - 1 - from : from);
     if (first <= last) {
       Skip(first);
+      const long long start = from + step * first;
+      const int x = static_cast<int>(horizontal ? start : fixed);
+      const int y = static_cast<int>(horizontal ? fixed : start);
+      PixelWalk walk(surface_, x, y, horizontal ? static_cast<int>(step) : 0,
+                     horizontal ? 0 : static_cast<int>(step));
       for (long long k = first; k <= last;) {
         const long long run = pattern_ != nullptr ? std::min(dash_.left, last - k + 1)
                                                   : last - k + 1;
-        const long long a = from + step * k, b = from + step * (k + run - 1);
-        const int low = static_cast<int>(std::min(a, b)), high = static_cast<int>(std::max(a, b));
-        const int at = static_cast<int>(fixed);
-        if (horizontal) {
-          MixSpan(surface_, at, low, high + 1, Current());
-        } else if (!Current().IsNop()) {
-          for (int y = low; y <= high; ++y) MixPixel(surface_, at, y, Current());
-        }
+        walk.Mix(run, Current());
         Skip(run);
         k += run;
       }
@@ -209,19 +255,16 @@ void CosmeticLine::Diagonal(POINT start, POINT end) {
     if (last == p2) --length;
     const long long major = params.xMajor ? params.dx : params.dy;
     const long long minor = params.xMajor ? params.dy : params.dx;
-    long long x = first.x, y = first.y;
+    const int majorX = params.xMajor ? params.xStep : 0, majorY = params.xMajor ? 0 : params.yStep;
+    PixelWalk walk(surface_, static_cast<int>(first.x), static_cast<int>(first.y), majorX,
+                   majorY);
+    const int minorX = params.xMajor ? 0 : params.xStep, minorY = params.xMajor ? params.yStep : 0;
     for (; length > 0; --length) {
-      MixPixel(surface_, static_cast<int>(x), static_cast<int>(y), Current());
+      walk.Mix(1, Current());
       Skip(1);
       const bool stepMinor = err + params.bias > 0;
       err += stepMinor ? 2 * minor - 2 * major : 2 * minor;
-      if (params.xMajor) {
-        x += params.xStep;
-        if (stepMinor) y += params.yStep;
-      } else {
-        y += params.yStep;
-        if (stepMinor) x += params.xStep;
-      }
+      if (stepMinor) walk.Move(minorX, minorY);
     }
   }
   dash_ = origin;

@@ -2,6 +2,7 @@
 #include "platform/soft/gdi/shapes.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <vector>
 
@@ -60,14 +61,13 @@ void PaintWithBrush(const RasterTarget& target, const CoverageMask& mask, const 
 
 // A wide outline and the interior it encloses paint once each: interior first, minus the outline.
 template <class AddInterior>
-void PaintWideShape(const RasterTarget& target, const Stroker& stroker,
-                    const std::vector<POINT>& outlinePoints, const Box& interiorBox,
-                    const BrushPixels& brush, int rop2, AddInterior addInterior) {
-  const RECT bounds =
-      Union(stroker.WideBounds(outlinePoints.data(), outlinePoints.size()),
-            ClippedBox(*target.surface, interiorBox));
+void PaintWideShape(const RasterTarget& target, const Stroker& stroker, const POINT* outlinePoints,
+                    std::size_t count, const Box& interiorBox, const BrushPixels& brush, int rop2,
+                    AddInterior addInterior) {
+  const RECT bounds = Union(stroker.WideBounds(outlinePoints, count),
+                            ClippedBox(*target.surface, interiorBox));
   CoverageMask outline(bounds);
-  stroker.Polyline(outlinePoints.data(), outlinePoints.size(), true, &outline);
+  stroker.Polyline(outlinePoints, count, true, &outline);
   if (!brush.PaintsNothing()) {
     CoverageMask interior(bounds);
     addInterior(interior);
@@ -86,11 +86,12 @@ void DrawRectangle(const RasterTarget& target, const PenSpec& pen, const BrushPi
   // The outline runs through the last column and row, anticlockwise from the top right.
   --box.right;
   --box.bottom;
-  const std::vector<POINT> corners = {Point(box.right, box.top), Point(box.left, box.top),
-                                      Point(box.left, box.bottom), Point(box.right, box.bottom)};
+  const std::array<POINT, 4> corners = {Point(box.right, box.top), Point(box.left, box.top),
+                                        Point(box.left, box.bottom), Point(box.right, box.bottom)};
   const Stroker stroker(target, pen, rop2);
   if (pen.kind == PenSpec::Kind::Wide) {
-    PaintWideShape(target, stroker, corners, box, brush, rop2, [&](CoverageMask& interior) {
+    PaintWideShape(target, stroker, corners.data(), corners.size(), box, brush, rop2,
+                   [&](CoverageMask& interior) {
       interior.AddRect(std::min(box.left, box.right), std::min(box.top, box.bottom),
                        std::max(box.left, box.right), std::max(box.top, box.bottom));
     });
@@ -145,7 +146,7 @@ bool DrawRoundRect(const RasterTarget& target, const PenSpec& pen, const BrushPi
   }
   const Stroker stroker(target, pen, rop2);
   if (pen.kind == PenSpec::Kind::Wide) {
-    PaintWideShape(target, stroker, points, box, brush, rop2,
+    PaintWideShape(target, stroker, points.data(), points.size(), box, brush, rop2,
                    [&](CoverageMask& mask) { AddBands(mask, interior); });
     return true;
   }
