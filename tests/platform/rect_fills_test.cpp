@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,14 @@ TEST(FillRect, FillsRightAndBottomExclusiveWhateverTheMix) {
   const Picture expected = {"......", ".rrr..", ".rrr..", ".....r"};
   EXPECT_EQ(s.Picture({{kRed, 'r'}}), expected);
   DeleteObject(red);
+}
+
+TEST(FillRect, HugeRectanglesCoverTheSurface) {
+  LeakCheck leaks;
+  RasterSurface s(3, 2);
+  EXPECT_EQ(Fill(s.dc(), INT_MIN, INT_MIN, INT_MAX, INT_MAX, GetSysColorBrush(COLOR_WINDOWTEXT)),
+            1);
+  EXPECT_EQ(s.Picture(), Picture(2, "###"));
 }
 
 TEST(FillRect, TakesSystemColourIndicesAndIgnoresBadBrushes) {

@@ -30,7 +30,7 @@ RECT ClipToSurface(const Pixmap& surface, const RECT& rect) {
   return clipped;
 }
 
-RECT BlitRect(int x, int y, int width, int height) {
+RECT BlitRect(long long x, long long y, long long width, long long height) {
   auto span = [](long long start, long long extent, LONG& low, LONG& high) {
     long long a = start, b = start + extent;
     if (a > b) {

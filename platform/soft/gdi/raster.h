@@ -41,7 +41,7 @@ inline bool IsEmptyRect(const RECT& rect) {
 
 // The pixels a block transfer of width x height at (x, y) covers: a negative extent mirrors the
 // area around the start pixel, so (10, 0, -5, 5) covers columns 6 to 10.
-RECT BlitRect(int x, int y, int width, int height);
+RECT BlitRect(long long x, long long y, long long width, long long height);
 
 // ---- ROP2 -------------------------------------------------------------------------------------
 

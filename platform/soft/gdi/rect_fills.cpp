@@ -1,5 +1,4 @@
 // USER's FillRect and FrameRect: pattern copies with a given brush, whatever the DC's mix.
-#include <algorithm>
 #include <cstdint>
 
 #include "platform/soft/gdi/raster.h"
@@ -18,13 +17,10 @@ const BrushObject* FillBrush(SoftEngine& engine, HBRUSH brush) {
   return engine.Brush(brush);
 }
 
-int Extent(LONG from, LONG to) {
-  return static_cast<int>(std::clamp<long long>(static_cast<long long>(to) - from, INT32_MIN,
-                                                INT32_MAX));
-}
+long long Extent(LONG from, LONG to) { return static_cast<long long>(to) - from; }
 
-void PatCopy(const RasterTarget& target, const BrushPixels& brush, int x, int y, int width,
-             int height) {
+void PatCopy(const RasterTarget& target, const BrushPixels& brush, long long x, long long y,
+             long long width, long long height) {
   BrushRect(*target.surface, BlitRect(x, y, width, height), brush, R2_COPYPEN);
 }
 
@@ -48,11 +44,12 @@ int SoftEngine::FrameRect(HDC hdc, const RECT* rect, HBRUSH brush) {
   const RasterTarget target = ResolveTarget(*this, hdc);
   if (target) {
     const BrushPixels pixels(record, target);
-    const int width = Extent(rect->left, rect->right), height = Extent(rect->top, rect->bottom);
+    const long long width = Extent(rect->left, rect->right);
+    const long long height = Extent(rect->top, rect->bottom);
     PatCopy(target, pixels, rect->left, rect->top, 1, height);
-    PatCopy(target, pixels, rect->right - 1, rect->top, 1, height);
+    PatCopy(target, pixels, rect->right - 1LL, rect->top, 1, height);
     PatCopy(target, pixels, rect->left, rect->top, width, 1);
-    PatCopy(target, pixels, rect->left, rect->bottom - 1, width, 1);
+    PatCopy(target, pixels, rect->left, rect->bottom - 1LL, width, 1);
   }
   return 1;
 }

@@ -10,7 +10,7 @@ namespace {
 
 __extension__ typedef __int128 Int128;
 
-// Incremental midpoint ellipse walk (after Zingl) shared by region rows and outline points.
+// Incremental midpoint ellipse walk shared by region rows and outline points.
 class EllipseWalk {
  public:
   EllipseWalk(long long width, long long height) {

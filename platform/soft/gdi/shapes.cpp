@@ -20,7 +20,7 @@ struct Box {
 
 // The device rectangle a pen outlines: normalised, and pulled in by half the pen width for
 // PS_INSIDEFRAME so the whole stroke stays inside. False when it has no area to begin with.
-bool PenBox(const PenSpec& pen, int left, int top, int right, int bottom, Box& box) {
+bool PenBox(const ResolvedPen& pen, int left, int top, int right, int bottom, Box& box) {
   box = Box{std::min(left, right), std::min(top, bottom), std::max(left, right),
             std::max(top, bottom)};
   if (box.left == box.right || box.top == box.bottom) return false;
@@ -79,7 +79,7 @@ void PaintWideShape(const RasterTarget& target, const Stroker& stroker, const PO
 
 }  // namespace
 
-void DrawRectangle(const RasterTarget& target, const PenSpec& pen, const BrushPixels& brush,
+void DrawRectangle(const RasterTarget& target, const ResolvedPen& pen, const BrushPixels& brush,
                    int rop2, int left, int top, int right, int bottom) {
   Box box{};
   if (!PenBox(pen, left, top, right, bottom, box)) return;
@@ -89,7 +89,7 @@ void DrawRectangle(const RasterTarget& target, const PenSpec& pen, const BrushPi
   const std::array<POINT, 4> corners = {Point(box.right, box.top), Point(box.left, box.top),
                                         Point(box.left, box.bottom), Point(box.right, box.bottom)};
   const Stroker stroker(target, pen, rop2);
-  if (pen.kind == PenSpec::Kind::Wide) {
+  if (pen.kind == ResolvedPen::Kind::Wide) {
     PaintWideShape(target, stroker, corners.data(), corners.size(), box, brush, rop2,
                    [&](CoverageMask& interior) {
       interior.AddRect(std::min(box.left, box.right), std::min(box.top, box.bottom),
@@ -105,7 +105,7 @@ void DrawRectangle(const RasterTarget& target, const PenSpec& pen, const BrushPi
   BrushRect(*target.surface, ClippedBox(*target.surface, Box{l, t, r, b}), brush, rop2);
 }
 
-bool DrawRoundRect(const RasterTarget& target, const PenSpec& pen, const BrushPixels& brush,
+bool DrawRoundRect(const RasterTarget& target, const ResolvedPen& pen, const BrushPixels& brush,
                    int rop2, int left, int top, int right, int bottom, long long ellipseWidth,
                    long long ellipseHeight) {
   Box box{};
@@ -145,7 +145,7 @@ bool DrawRoundRect(const RasterTarget& target, const PenSpec& pen, const BrushPi
     interior = RoundRectRegion(box.left, box.top, box.right + 1, box.bottom + 1, ew, eh);
   }
   const Stroker stroker(target, pen, rop2);
-  if (pen.kind == PenSpec::Kind::Wide) {
+  if (pen.kind == ResolvedPen::Kind::Wide) {
     PaintWideShape(target, stroker, points.data(), points.size(), box, brush, rop2,
                    [&](CoverageMask& mask) { AddBands(mask, interior); });
     return true;
@@ -170,21 +170,21 @@ BOOL WithDcTools(const SoftEngine& engine, HDC hdc, Draw draw) {
   const RasterTarget target = ResolveTarget(engine, hdc);
   if (!target) return TRUE;
   const PenObject* pen = engine.Pen(dc->attributes.pen);
-  PenSpec spec;
+  ResolvedPen resolved;
   if (pen != nullptr) {
-    spec = ResolvePen(*pen);
+    resolved = ResolvePen(*pen);
   } else {
-    spec.kind = PenSpec::Kind::Null;
-    spec.width = 0;
+    resolved.kind = ResolvedPen::Kind::Null;
+    resolved.width = 0;
   }
   const BrushPixels brush(engine.Brush(dc->attributes.brush), target);
-  return draw(target, spec, brush, dc->attributes.rop2) ? TRUE : FALSE;
+  return draw(target, resolved, brush, dc->attributes.rop2) ? TRUE : FALSE;
 }
 
 }  // namespace
 
 BOOL SoftEngine::Rectangle(HDC hdc, int left, int top, int right, int bottom) {
-  return WithDcTools(*this, hdc, [&](const RasterTarget& target, const PenSpec& pen,
+  return WithDcTools(*this, hdc, [&](const RasterTarget& target, const ResolvedPen& pen,
                                      const BrushPixels& brush, int rop2) {
     DrawRectangle(target, pen, brush, rop2, left, top, right, bottom);
     return true;
@@ -193,7 +193,7 @@ BOOL SoftEngine::Rectangle(HDC hdc, int left, int top, int right, int bottom) {
 
 BOOL SoftEngine::RoundRect(HDC hdc, int left, int top, int right, int bottom, int ellipseWidth,
                            int ellipseHeight) {
-  return WithDcTools(*this, hdc, [&](const RasterTarget& target, const PenSpec& pen,
+  return WithDcTools(*this, hdc, [&](const RasterTarget& target, const ResolvedPen& pen,
                                      const BrushPixels& brush, int rop2) {
     return DrawRoundRect(target, pen, brush, rop2, left, top, right, bottom, ellipseWidth,
                          ellipseHeight);
@@ -201,7 +201,7 @@ BOOL SoftEngine::RoundRect(HDC hdc, int left, int top, int right, int bottom, in
 }
 
 BOOL SoftEngine::Ellipse(HDC hdc, int left, int top, int right, int bottom) {
-  return WithDcTools(*this, hdc, [&](const RasterTarget& target, const PenSpec& pen,
+  return WithDcTools(*this, hdc, [&](const RasterTarget& target, const ResolvedPen& pen,
                                      const BrushPixels& brush, int rop2) {
     return DrawRoundRect(target, pen, brush, rop2, left, top, right, bottom,
                          static_cast<long long>(right) - left,

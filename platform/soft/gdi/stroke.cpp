@@ -63,43 +63,43 @@ void AddWideSegment(CoverageMask& mask, POINT a, POINT b, int width) {
 
 }  // namespace
 
-PenSpec ResolvePen(const PenObject& pen) {
-  PenSpec spec;
-  spec.color = pen.color;
-  spec.width = std::max(pen.width, 1);
+ResolvedPen ResolvePen(const PenObject& pen) {
+  ResolvedPen resolved;
+  resolved.color = pen.color;
+  resolved.width = std::max(pen.width, 1);
   switch (pen.style) {
     case PS_NULL:
-      spec.kind = PenSpec::Kind::Null;
-      spec.width = 0;
-      return spec;
+      resolved.kind = ResolvedPen::Kind::Null;
+      resolved.width = 0;
+      return resolved;
     case PS_DASH:
     case PS_DASHDOT:
     case PS_DOT:
     case PS_DASHDOTDOT:
       // Wider pens from CreatePen draw their dashed styles solid.
-      if (spec.width == 1) {
-        spec.kind = PenSpec::Kind::Dashed;
-        spec.dashes = &kCosmeticDashes[pen.style - PS_DASH];
-        return spec;
+      if (resolved.width == 1) {
+        resolved.kind = ResolvedPen::Kind::Dashed;
+        resolved.dashes = &kCosmeticDashes[pen.style - PS_DASH];
+        return resolved;
       }
       break;
-    case PS_INSIDEFRAME: spec.insideFrame = true; break;
+    case PS_INSIDEFRAME: resolved.insideFrame = true; break;
     default: break;
   }
-  spec.kind = spec.width > 1 ? PenSpec::Kind::Wide : PenSpec::Kind::Solid;
-  return spec;
+  resolved.kind = resolved.width > 1 ? ResolvedPen::Kind::Wide : ResolvedPen::Kind::Solid;
+  return resolved;
 }
 
-PenSpec AlternatePen(COLORREF color) {
-  PenSpec spec;
-  spec.kind = PenSpec::Kind::Dashed;
-  spec.color = color;
-  spec.dashes = &kAlternate;
-  spec.transparentGaps = true;
-  return spec;
+ResolvedPen AlternatePen(COLORREF color) {
+  ResolvedPen resolved;
+  resolved.kind = ResolvedPen::Kind::Dashed;
+  resolved.color = color;
+  resolved.dashes = &kAlternate;
+  resolved.transparentGaps = true;
+  return resolved;
 }
 
-Stroker::Stroker(const RasterTarget& target, const PenSpec& pen, int rop2)
+Stroker::Stroker(const RasterTarget& target, const ResolvedPen& pen, int rop2)
     : target_(target), pen_(pen) {
   const Pixmap& surface = *target.surface;
   const DcAttributes& dc = target.dc->attributes;
@@ -113,7 +113,7 @@ Stroker::Stroker(const RasterTarget& target, const PenSpec& pen, int rop2)
 }
 
 void Stroker::Polyline(const POINT* points, std::size_t count, bool closed) const {
-  if (pen_.kind == PenSpec::Kind::Wide) {
+  if (pen_.kind == ResolvedPen::Kind::Wide) {
     CoverageMask mask(WideBounds(points, count));
     Polyline(points, count, closed, &mask);
     PaintMask(mask);
@@ -124,10 +124,10 @@ void Stroker::Polyline(const POINT* points, std::size_t count, bool closed) cons
 
 void Stroker::Polyline(const POINT* points, std::size_t count, bool closed,
                        CoverageMask* mask) const {
-  if (count < 2 || pen_.kind == PenSpec::Kind::Null) return;
-  if (pen_.kind != PenSpec::Kind::Wide) {
+  if (count < 2 || pen_.kind == ResolvedPen::Kind::Null) return;
+  if (pen_.kind != ResolvedPen::Kind::Wide) {
     CosmeticLine line(*target_.surface, dash_, gap_,
-                      pen_.kind == PenSpec::Kind::Dashed ? pen_.dashes : nullptr);
+                      pen_.kind == ResolvedPen::Kind::Dashed ? pen_.dashes : nullptr);
     for (std::size_t i = 0; i + 1 < count; ++i) line.Draw(points[i], points[i + 1]);
     if (closed) line.Draw(points[count - 1], points[0]);
     return;

@@ -17,7 +17,7 @@ struct DashPattern {
   int total;
 };
 
-struct PenSpec {
+struct ResolvedPen {
   enum class Kind { Null, Solid, Dashed, Wide };
   Kind kind = Kind::Solid;
   int width = 1;  // device width; 0 for the null pen
@@ -27,16 +27,16 @@ struct PenSpec {
   bool transparentGaps = false;         // extended pens leave their gaps alone in any mode
 };
 
-PenSpec ResolvePen(const PenObject& pen);
+ResolvedPen ResolvePen(const PenObject& pen);
 
 // The extended cosmetic pen that alternates one pixel on, one off.
-PenSpec AlternatePen(COLORREF color);
+ResolvedPen AlternatePen(COLORREF color);
 
 // Strokes polylines with one pen under one ROP2 mix. The dash pattern restarts with every
 // Polyline call and runs on across its segments.
 class Stroker {
  public:
-  Stroker(const RasterTarget& target, const PenSpec& pen, int rop2);
+  Stroker(const RasterTarget& target, const ResolvedPen& pen, int rop2);
 
   // For wide pens: adds the outline to mask instead of painting it.
   void Polyline(const POINT* points, std::size_t count, bool closed, CoverageMask* mask) const;
@@ -50,7 +50,7 @@ class Stroker {
 
  private:
   RasterTarget target_;
-  PenSpec pen_;
+  ResolvedPen pen_;
   RopMasks dash_;  // the pen's own pixels
   RopMasks gap_;   // the gaps between dashes
 };
