@@ -1,0 +1,20 @@
+// The commands of the glyphon program. Each takes the arguments after its name and returns the
+// process exit code, writing its result or its complaint itself.
+#pragma once
+
+#include <span>
+#include <string>
+
+namespace glyphon::apps {
+
+struct Command {
+  const char* name;
+  const char* arguments;  // for the usage line
+  const char* summary;
+  int (*run)(std::span<const std::string> arguments);
+};
+
+// Paints the sample sheet of the drawing surfaces and writes it as a PNG.
+int RunSample(std::span<const std::string> arguments);
+
+}  // namespace glyphon::apps
