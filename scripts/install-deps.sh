@@ -7,6 +7,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   libpng-dev libfreetype-dev libfontconfig-dev fonts-dejavu-core
   fonts-liberation2 fonts-wqy-microhei
+  clang libclang-rt-14-dev
 )
 
 missing=()
