@@ -16,7 +16,7 @@ Image DecodeBmp(std::span<const std::uint8_t> data) {
   if (in.U16("file header") != kSignature) throw DecodeError("not a BMP file");
   in.Skip(8, "file header");  // file size and reserved words, which writers often get wrong
   const std::uint32_t bitsOffset = in.U32("file header");
-  const DibFormat format = ReadDibFormat(in);
+  const DibLayout format = ReadDibLayout(in);
   if (bitsOffset < in.Position()) throw DecodeError("pixel data offset points into the header");
   if (bitsOffset > data.size()) throw DecodeError("pixel data offset lies beyond the data");
   return DecodeDibPixels(format, data.subspan(bitsOffset));

@@ -35,7 +35,7 @@ bool ValidDepth(int bitCount, std::uint32_t compression, bool core) {
   }
 }
 
-void ReadColorTable(ByteReader& in, DibFormat& format, std::uint32_t colorsUsed, bool core) {
+void ReadColorTable(ByteReader& in, DibLayout& format, std::uint32_t colorsUsed, bool core) {
   if (format.bitCount > 8) {
     // Deeper formats may carry an optional table for palette devices; it is not used.
     in.Skip(std::uint64_t{colorsUsed} * 4, "colour table");
@@ -79,7 +79,7 @@ class Channel {
 };
 
 struct MaskedChannels {
-  explicit MaskedChannels(const DibFormat& f)
+  explicit MaskedChannels(const DibLayout& f)
       : red(f.redMask), green(f.greenMask), blue(f.blueMask), alpha(f.alphaMask) {}
   void Store(std::uint32_t pixel, std::uint8_t* out) const {
     out[0] = blue.Extract(pixel);
@@ -90,7 +90,7 @@ struct MaskedChannels {
   Channel red, green, blue, alpha;
 };
 
-void StoreIndex(const DibFormat& format, unsigned index, std::uint8_t* out) {
+void StoreIndex(const DibLayout& format, unsigned index, std::uint8_t* out) {
   // Indices beyond the table read as black, as GDI reads them.
   if (index >= format.colors.size()) return;
   const auto& color = format.colors[index];
@@ -99,7 +99,7 @@ void StoreIndex(const DibFormat& format, unsigned index, std::uint8_t* out) {
   out[2] = color[2];
 }
 
-void DecodeRow(const DibFormat& format, const MaskedChannels& masks, const std::uint8_t* row,
+void DecodeRow(const DibLayout& format, const MaskedChannels& masks, const std::uint8_t* row,
                std::uint8_t* out) {
   for (int x = 0; x < format.width; ++x, out += 4) {
     switch (format.bitCount) {
@@ -123,7 +123,7 @@ void DecodeRow(const DibFormat& format, const MaskedChannels& masks, const std::
   }
 }
 
-void DecodeUncompressed(const DibFormat& format, std::span<const std::uint8_t> bits, Image& image) {
+void DecodeUncompressed(const DibLayout& format, std::span<const std::uint8_t> bits, Image& image) {
   const std::uint64_t stride = DibStride(format.width, format.bitCount);
   if (bits.size() / stride < static_cast<std::uint64_t>(format.height)) {
     throw DecodeError("pixel data ends early");
@@ -137,7 +137,7 @@ void DecodeUncompressed(const DibFormat& format, std::span<const std::uint8_t> b
 
 // RLE streams: runs of one index, absolute runs padded to 16 bits, and escapes for end of line,
 // end of bitmap and a jump ahead. Lines count from the bottom, as the stream stores them.
-void DecodeRle(const DibFormat& format, std::span<const std::uint8_t> bits, Image& image) {
+void DecodeRle(const DibLayout& format, std::span<const std::uint8_t> bits, Image& image) {
   const bool fourBits = format.compression == BI_RLE4;
   ByteReader in(bits);
   int x = 0;
@@ -191,7 +191,7 @@ std::uint64_t DibStride(int width, int bitCount) {
   return (static_cast<std::uint64_t>(width) * bitCount + 31) / 32 * 4;
 }
 
-DibFormat ReadDibFormat(ByteReader& in) {
+DibLayout ReadDibLayout(ByteReader& in) {
   const std::size_t start = in.Position();
   const std::uint32_t headerSize = in.U32("bitmap header");
   const bool core = headerSize == kCoreHeaderSize;
@@ -200,7 +200,7 @@ DibFormat ReadDibFormat(ByteReader& in) {
       headerSize != kV5HeaderSize) {
     throw DecodeError("unsupported bitmap header size " + std::to_string(headerSize));
   }
-  DibFormat format;
+  DibLayout format;
   std::int64_t width = 0;
   std::int64_t height = 0;
   std::uint32_t colorsUsed = 0;
@@ -261,7 +261,7 @@ DibFormat ReadDibFormat(ByteReader& in) {
   return format;
 }
 
-Image DecodeDibPixels(const DibFormat& format, std::span<const std::uint8_t> bits) {
+Image DecodeDibPixels(const DibLayout& format, std::span<const std::uint8_t> bits) {
   CheckPictureSize(format.width, format.height);
   Image image;
   image.width = format.width;

@@ -13,7 +13,7 @@
 
 namespace glyphon {
 
-struct DibFormat {
+struct DibLayout {
   int width = 0;
   int height = 0;  // always positive; topDown tells the row order
   bool topDown = false;
@@ -28,7 +28,7 @@ struct DibFormat {
 
 // Reads the header, any masks that follow it and the colour table; leaves the reader just after
 // them. Checks the header's values (depth, compression, size limits), not the pixel data.
-DibFormat ReadDibFormat(ByteReader& in);
+DibLayout ReadDibLayout(ByteReader& in);
 
 // Bytes one row of uncompressed pixels takes (rows are padded to 32 bits).
 std::uint64_t DibStride(int width, int bitCount);
@@ -36,6 +36,6 @@ std::uint64_t DibStride(int width, int bitCount);
 // Decodes the pixels into a top-down image. Colours come from the table or the masks; the alpha
 // byte is the one a 32-bit format stores (its fourth byte, or the alpha mask's bits) and 0 for
 // every other format. Pixels an RLE stream skips stay black with alpha 0.
-Image DecodeDibPixels(const DibFormat& format, std::span<const std::uint8_t> bits);
+Image DecodeDibPixels(const DibLayout& format, std::span<const std::uint8_t> bits);
 
 }  // namespace glyphon

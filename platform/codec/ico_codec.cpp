@@ -41,7 +41,7 @@ std::vector<std::uint8_t> MaskFromAlpha(const Image& image) {
 
 IconImage DecodeDibIcon(std::span<const std::uint8_t> data) {
   ByteReader in(data);
-  DibFormat format = ReadDibFormat(in);
+  DibLayout format = ReadDibLayout(in);
   if (format.compression != win::BI_RGB && format.compression != win::BI_BITFIELDS) {
     throw DecodeError("icon images cannot be compressed");
   }
