@@ -109,7 +109,7 @@ TEST(PictureLoading, PngBecomesAnOpaqueBitmap) {
   ASSERT_EQ(picture.Type(), PICTYPE_BITMAP);
   const Image pixels = ReadBitmapPixels(picture.Bitmap());
   EXPECT_EQ(PixelAt(pixels, 0, 0), 0x00302010u);
-  EXPECT_EQ(PixelAt(pixels, 1, 0), 0x00604050u);
+  EXPECT_EQ(PixelAt(pixels, 1, 0), 0x00605040u);
 }
 
 TEST(PictureSaving, SavedBytesLoadToTheSamePixelsAndSaveAlike) {
