@@ -43,6 +43,14 @@ std::vector<std::uint8_t> Encode(const StdPicture& picture) {
   throw PictureError(sourceName + ": " + reason);
 }
 
+std::vector<std::uint8_t> EncodeOrFail(const StdPicture& picture, const std::string& targetName) {
+  try {
+    return Encode(picture);
+  } catch (const DecodeError& e) {
+    Fail(targetName, e.what());
+  }
+}
+
 }  // namespace
 
 StdPicture LoadPictureFile(const std::filesystem::path& path, const IconRequest& icon) {
@@ -73,15 +81,11 @@ StdPicture LoadPictureData(std::span<const std::uint8_t> data, const std::string
 }
 
 std::vector<std::uint8_t> SavePictureData(const StdPicture& picture) {
-  try {
-    return Encode(picture);
-  } catch (const DecodeError& e) {
-    Fail("picture", e.what());
-  }
+  return EncodeOrFail(picture, "picture");
 }
 
 void SavePictureFile(const StdPicture& picture, const std::filesystem::path& path) {
-  const std::vector<std::uint8_t> bytes = SavePictureData(picture);
+  const std::vector<std::uint8_t> bytes = EncodeOrFail(picture, path.string());
   std::ofstream file(path, std::ios::binary | std::ios::trunc);
   file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
   if (!file.flush()) Fail(path.string(), "cannot write the file");

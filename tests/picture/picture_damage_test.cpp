@@ -133,6 +133,8 @@ const Damage kDamages[] = {
     {"PNG without header", [] { return Truncated(IcoWithPng(1, 1), 12); }, "PNG header ends early"},
 };
 
+void PrintTo(const Damage& damage, std::ostream* out) { *out << damage.name; }
+
 class DamagedPicture : public ::testing::TestWithParam<Damage> {};
 
 TEST_P(DamagedPicture, FailsWithAnErrorNamingTheSource) {
