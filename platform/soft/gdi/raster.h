@@ -27,7 +27,7 @@ struct RasterTarget {
   explicit operator bool() const { return dc != nullptr && surface != nullptr; }
 };
 
-// Empty (false) when hdc is not a live DC.
+// Empty (false) when hdc is not a live DC or draws on nothing.
 RasterTarget ResolveTarget(const SoftEngine& engine, HDC hdc);
 
 // ---- Clipping ---------------------------------------------------------------------------------
