@@ -4,6 +4,9 @@
 // map to device pixels as pens and backgrounds do elsewhere in the engine.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+
 #include "platform/soft/pixmap.h"
 #include "platform/soft/text/realized_font.h"
 
@@ -23,6 +26,8 @@ class GlyphPainter {
 
  private:
   void Fill(RECT area, PixelValue pixel, int rop2);
+  void DrawOn32(const std::uint8_t* coverage, std::ptrdiff_t stride, int left, int top, int right,
+                int bottom);
 
   Pixmap& target_;
   RECT clip_;
