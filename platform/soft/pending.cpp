@@ -4,15 +4,6 @@
 
 namespace glyphon::win::soft {
 
-BOOL SoftEngine::PatBlt(HDC, int, int, int, int, DWORD) { return {}; }
-BOOL SoftEngine::BitBlt(HDC, int, int, int, int, HDC, int, int, DWORD) { return {}; }
-BOOL SoftEngine::StretchBlt(HDC, int, int, int, int, HDC, int, int, int, int, DWORD) { return {}; }
-HPALETTE SoftEngine::CreateHalftonePalette(HDC) { return {}; }
-HPALETTE SoftEngine::CreatePalette(const LOGPALETTE*) { return {}; }
-UINT SoftEngine::RealizePalette(HDC) { return {}; }
-UINT SoftEngine::GetPaletteEntries(HPALETTE, UINT, UINT, PALETTEENTRY*) { return {}; }
-UINT SoftEngine::GetNearestPaletteIndex(HPALETTE, COLORREF) { return {}; }
-HRESULT SoftEngine::OleTranslateColor(OLE_COLOR, HPALETTE, COLORREF*) { return {}; }
 HICON SoftEngine::CreateIconIndirect(ICONINFO *) { return {}; }
 BOOL SoftEngine::GetIconInfo(HICON, ICONINFO*) { return {}; }
 BOOL SoftEngine::DestroyIcon(HICON) { return {}; }
