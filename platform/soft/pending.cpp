@@ -4,10 +4,6 @@
 
 namespace glyphon::win::soft {
 
-HICON SoftEngine::CreateIconIndirect(ICONINFO *) { return {}; }
-BOOL SoftEngine::GetIconInfo(HICON, ICONINFO*) { return {}; }
-BOOL SoftEngine::DestroyIcon(HICON) { return {}; }
-BOOL SoftEngine::DrawIconEx(HDC, int, int, HICON, int, int, UINT, HBRUSH, UINT) { return {}; }
 ATOM SoftEngine::RegisterClassA(const WNDCLASSA*) { return {}; }
 BOOL SoftEngine::UnregisterClassA(LPCSTR, HINSTANCE) { return {}; }
 HWND SoftEngine::CreateWindowExA(DWORD, LPCSTR, LPCSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, void*) { return {}; }

@@ -2,25 +2,23 @@
 #include <cstring>
 #include <vector>
 
-#include "platform/soft/gdi/blit_geometry.h"
+#include "platform/soft/gdi/blit_transfer.h"
 #include "platform/soft/gdi/colors.h"
 #include "platform/soft/gdi/pixel_conversion.h"
 #include "platform/soft/gdi/pixel_rows.h"
-#include "platform/soft/gdi/raster.h"
 #include "platform/soft/gdi/rop3.h"
-#include "platform/soft/gdi/stretch.h"
 #include "platform/soft/soft_engine.h"
 
 namespace glyphon::win::soft {
 
 namespace {
 
-PixelConversion TransferConversion(const SoftEngine& engine, const RasterTarget& from,
+PixelConversion TransferConversion(const SoftEngine& engine, const TransferSource& from,
                                    const RasterTarget& to) {
   PixelConversion::Side source;
   source.pixmap = from.surface;
-  source.deviceMonochrome = from.monochromeDevice;
-  source.background = ResolveDcColor(engine, *from.dc, from.dc->attributes.backgroundColor);
+  source.deviceMonochrome = from.deviceMonochrome;
+  source.background = from.background;
   PixelConversion::Side destination;
   destination.pixmap = to.surface;
   destination.deviceMonochrome = to.monochromeDevice;
@@ -59,15 +57,6 @@ bool CopyRows(const Pixmap& from, const RECT& src, Pixmap& to, const RECT& dst) 
   return true;
 }
 
-PixelBlock ReadConverted(const Pixmap& surface, const RECT& area, const PixelConversion& conversion) {
-  PixelBlock block = NewBlock(area);
-  for (int y = area.top; y < area.bottom; ++y) {
-    ReadPixels(surface, area.left, y, block.Width(), block.Row(y));
-    conversion.Apply(block.Row(y), block.Width());
-  }
-  return block;
-}
-
 // Combines destination, pattern and (when given) source under a ROP3 code over the block's area.
 // Where a brush paints nothing (null brushes, hatch gaps in transparent mode) the destination
 // stays as it is.
@@ -101,11 +90,16 @@ void Combine(const SoftEngine& engine, const RasterTarget& target, const RECT& a
   }
 }
 
-BOOL Transfer(const SoftEngine& engine, HDC hdc, BlitSide dst, HDC hdcSource, BlitSide src,
-              DWORD rop) {
-  const RasterTarget to = ResolveTarget(engine, hdc);
-  const RasterTarget from = ResolveTarget(engine, hdcSource);
-  if (!to || !from) return FALSE;
+}  // namespace
+
+PixelBlock ReadBlock(const Pixmap& surface, const RECT& area) {
+  PixelBlock block = NewBlock(area);
+  for (int y = area.top; y < area.bottom; ++y) ReadPixels(surface, area.left, y, block.Width(), block.Row(y));
+  return block;
+}
+
+BOOL TransferToTarget(const SoftEngine& engine, const RasterTarget& to, BlitSide dst,
+                      const TransferSource& from, BlitSide src, DWORD rop) {
   if (!ClipTransfer(dst, *to.surface, &src, from.surface)) return TRUE;
   // A one-pixel destination samples one source pixel less, as GDI does.
   if (dst.width == 1 && src.width > 1) --src.width;
@@ -116,7 +110,8 @@ BOOL Transfer(const SoftEngine& engine, HDC hdc, BlitSide dst, HDC hdcSource, Bl
       CopyRows(*from.surface, src.visible, *to.surface, dst.visible)) {
     return TRUE;
   }
-  PixelBlock block = ReadConverted(*from.surface, src.visible, conversion);
+  PixelBlock block = ReadBlock(*from.surface, src.visible);
+  for (int y = block.area.top; y < block.area.bottom; ++y) conversion.Apply(block.Row(y), block.Width());
   if (stretching) {
     PixelBlock stretched;
     if (!StretchBlock(block, src, dst, to.dc->attributes.stretchMode, *to.surface, stretched)) {
@@ -126,6 +121,18 @@ BOOL Transfer(const SoftEngine& engine, HDC hdc, BlitSide dst, HDC hdcSource, Bl
   }
   Combine(engine, to, dst.visible, &block, rop);
   return TRUE;
+}
+
+namespace {
+
+BOOL Transfer(const SoftEngine& engine, HDC hdc, const BlitSide& dst, HDC hdcSource,
+              const BlitSide& src, DWORD rop) {
+  const RasterTarget to = ResolveTarget(engine, hdc);
+  const RasterTarget from = ResolveTarget(engine, hdcSource);
+  if (!to || !from) return FALSE;
+  const TransferSource source{from.surface, from.monochromeDevice,
+                              ResolveDcColor(engine, *from.dc, from.dc->attributes.backgroundColor)};
+  return TransferToTarget(engine, to, dst, source, src, rop);
 }
 
 }  // namespace

@@ -39,6 +39,7 @@ PixelConversion PixelConversion::FromTable(const Side& from, const Side& to) {
   const Pixmap& source = *from.pixmap;
   const PixelValue count = PixelValue{1} << source.BitsPerPixel();
   const PixelValue backgroundIndex = source.ColorToPixel(from.background);
+  c.lookup_.resize(count);
   for (PixelValue i = 0; i < count; ++i) {
     if (to.deviceMonochrome) {
       c.lookup_[i] = i == backgroundIndex ? 1 : 0;
@@ -72,7 +73,7 @@ void PixelConversion::Apply(PixelValue* values, int count) const {
   switch (kind_) {
     case Kind::Identity: return;
     case Kind::Lookup:
-      for (int i = 0; i < count; ++i) values[i] = lookup_[values[i] & 0xFFu];
+      for (int i = 0; i < count; ++i) values[i] = lookup_[values[i]];
       return;
     case Kind::DropAlpha:
       for (int i = 0; i < count; ++i) values[i] &= 0x00FFFFFFu;

@@ -2,7 +2,7 @@
 // pixels between different formats.
 #pragma once
 
-#include <array>
+#include <vector>
 
 #include "platform/soft/pixmap.h"
 
@@ -37,7 +37,7 @@ class PixelConversion {
   static PixelConversion FromTable(const Side& from, const Side& to);
 
   Kind kind_ = Kind::Identity;
-  std::array<PixelValue, 256> lookup_{};
+  std::vector<PixelValue> lookup_;  // by source index, for Kind::Lookup
   PixelValue background_ = 0;
   const Pixmap* to_ = nullptr;
 };
