@@ -27,7 +27,7 @@ class MemorySurface {
     } info{};
     info.header = {sizeof(BITMAPINFOHEADER), width, -height, 1, static_cast<WORD>(bitsPerPixel),
                    BI_RGB, 0, 0, 0, 0, 0};
-    std::memcpy(info.colors, table.data(), table.size() * sizeof(RGBQUAD));
+    if (!table.empty()) std::memcpy(info.colors, table.data(), table.size() * sizeof(RGBQUAD));
     Attach(CreateDIBSection(nullptr, reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS,
                             &bits_, nullptr, 0));
   }
