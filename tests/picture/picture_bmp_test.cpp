@@ -146,19 +146,5 @@ TEST(BmpDecoding, Rle4RunsAlternateNibbles) {
   ExpectPixels(DecodeBmp(sample.BmpFile()), 6, kRleExpected);
 }
 
-TEST(BmpEncoding, RoundTripKeepsColoursAndDropsAlpha) {
-  Image image{.width = 5, .height = 3, .bgra = {}};
-  for (int i = 0; i < 15; ++i) {
-    const std::uint32_t color = PaletteColor(static_cast<unsigned>(i)) | 0xFF000000u;
-    for (int b = 0; b < 4; ++b) image.bgra.push_back(static_cast<std::uint8_t>(color >> (8 * b)));
-  }
-  const Image decoded = DecodeBmp(EncodeBmp(image));
-  ASSERT_EQ(decoded.width, 5);
-  ASSERT_EQ(decoded.height, 3);
-  for (int y = 0; y < 3; ++y) {
-    for (int x = 0; x < 5; ++x) EXPECT_EQ(PixelAt(decoded, x, y), PixelAt(image, x, y) & 0xFFFFFF);
-  }
-}
-
 }  // namespace
 }  // namespace glyphon::testing

@@ -85,17 +85,8 @@ TEST(IcoDecoding, PngImagesTakeTheirMaskFromAlpha) {
   EXPECT_EQ(icon.mask, (std::vector<std::uint8_t>{1, 0}));
 }
 
-TEST(IcoEncoding, RoundTripGivesTheSameImage) {
-  IconImage icon;
-  icon.color = Image{3, 2, {}};
-  for (unsigned i = 0; i < 6; ++i) {
-    const std::uint32_t pixel = PaletteColor(i) | (i * 40u) << 24;
-    for (int b = 0; b < 4; ++b) icon.color.bgra.push_back(static_cast<std::uint8_t>(pixel >> (8 * b)));
-  }
-  icon.mask = {1, 0, 1, 0, 0, 1};
-  EXPECT_EQ(DecodeIco(EncodeIco(icon)), icon);
-
-  // Sides of 256 cannot be written in the directory and come back from the image header.
+TEST(IcoEncoding, SidesOf256ComeBackFromTheImageHeader) {
+  // The directory cannot hold 256; the reader takes the size from the image.
   IconImage large;
   large.color = Image{256, 1, std::vector<std::uint8_t>(256 * 4, 0x11)};
   large.mask.assign(256, 0);
