@@ -85,6 +85,30 @@ TEST(StdPicture, OwnedHandleGoesWithTheLastCopyBorrowedOneStays) {
   DeleteObject(borrowed);
 }
 
+TEST(StdPicture, IconsMeasureTheirImageAndAreDestroyedWhenOwned) {
+  testing::LeakCheck leaks;
+  HBITMAP mask = CreateBitmap(24, 16, 1, 1, nullptr);
+  HBITMAP color = CreateBitmap(24, 16, 1, 32, nullptr);
+  ICONINFO info{TRUE, 0, 0, mask, color};
+  HICON icon = CreateIconIndirect(&info);
+  // Monochrome icons stack the AND and XOR masks in one bitmap of twice the height.
+  info.hbmColor = nullptr;
+  HICON monochrome = CreateIconIndirect(&info);
+  DeleteObject(mask);
+  DeleteObject(color);
+  {
+    const StdPicture picture = StdPicture::FromIcon(icon, true);
+    EXPECT_EQ(picture.Type(), PICTYPE_ICON);
+    EXPECT_EQ(picture.Icon(), icon);
+    EXPECT_EQ(picture.Bitmap(), nullptr);
+    EXPECT_EQ(picture.Width(), StdPicture::PixelsToHiMetric(24));
+    EXPECT_EQ(picture.Height(), StdPicture::PixelsToHiMetric(16));
+    EXPECT_EQ(StdPicture::FromIcon(monochrome, false).Height(), StdPicture::PixelsToHiMetric(8));
+  }
+  EXPECT_FALSE(DestroyIcon(icon));  // already gone with the picture
+  EXPECT_TRUE(DestroyIcon(monochrome));
+}
+
 TEST(StdPicture, ReleaseGoesToTheEngineThatMadeThePicture) {
   soft::SoftEngine other;
   const auto bitmaps = [&] {

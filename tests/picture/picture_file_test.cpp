@@ -29,6 +29,18 @@ Bytes MaskedBmp() {
 
 std::uint32_t Rgb(const Image& image, int x, int y) { return PixelAt(image, x, y) & 0xFFFFFF; }
 
+Bytes SeveralIcons() {
+  std::vector<std::uint8_t> mask(32 * 32, 0);
+  for (int i = 0; i < 32; ++i) mask[static_cast<std::size_t>(i * 32 + i)] = 1;  // a diagonal of holes
+  std::vector<std::uint32_t> alpha32(32 * 32);
+  for (std::size_t i = 0; i < alpha32.size(); ++i) alpha32[i] = static_cast<std::uint32_t>(i % 256) << 24 | 0x00336699;
+  return IcoFile({
+      {16, 16, 4, IconDib(16, 16, 4, {0, 0xFF0000}, std::vector<std::uint32_t>(256, 1), std::vector<std::uint8_t>(256, 0))},
+      {32, 32, 32, IconDib(32, 32, 32, {}, alpha32, mask)},
+      {48, 48, 8, IconDib(48, 48, 8, {0, 0x00FF00}, std::vector<std::uint32_t>(48 * 48, 1), std::vector<std::uint8_t>(48 * 48, 1))},
+  });
+}
+
 TEST(PictureLoading, BitmapsBecomeOpaque32BitDibSections) {
   LeakCheck leaks;
   const StdPicture picture = LoadPictureData(MaskedBmp());
@@ -44,6 +56,50 @@ TEST(PictureLoading, BitmapsBecomeOpaque32BitDibSections) {
   EXPECT_EQ(Rgb(pixels, 1, 0), kNearCyan);
   EXPECT_EQ(Rgb(pixels, 3, 0), 0xFF0000u);  // the first stored row is the bottom one
   EXPECT_EQ(Rgb(pixels, 3, 1), 0x123456u);
+}
+
+TEST(PictureLoading, MaskColourPixelsAndOnlyThoseTurnWhiteInTheMonochromeStep) {
+  LeakCheck leaks;
+  const StdPicture picture = LoadPictureData(MaskedBmp());
+  // The transparent copy: picture to a compatible bitmap, then to a monochrome one against the
+  // mask colour as background.
+  HDC source = CreateCompatibleDC(nullptr);
+  HGDIOBJ sourceOld = SelectObject(source, picture.Bitmap());
+  HDC work = CreateCompatibleDC(nullptr);
+  HBITMAP copy = CreateCompatibleBitmap(source, 4, 2);
+  HGDIOBJ workOld = SelectObject(work, copy);
+  BitBlt(work, 0, 0, 4, 2, source, 0, 0, SRCCOPY);
+  HDC monoDc = CreateCompatibleDC(nullptr);
+  HBITMAP mono = CreateBitmap(4, 2, 1, 1, nullptr);
+  HGDIOBJ monoOld = SelectObject(monoDc, mono);
+  SetBkColor(work, RGB(0, 255, 255));
+  BitBlt(monoDc, 0, 0, 4, 2, work, 0, 0, SRCCOPY);
+  SelectObject(monoDc, monoOld);
+  const Image mask = ReadBitmapPixels(mono);
+  for (int y = 0; y < 2; ++y) {
+    EXPECT_EQ(Rgb(mask, 0, y), 0xFFFFFFu);
+    for (int x = 1; x < 4; ++x) EXPECT_EQ(Rgb(mask, x, y), 0u) << x << "," << y;
+  }
+  SelectObject(work, workOld);
+  SelectObject(source, sourceOld);
+  for (HDC dc : {source, work, monoDc}) DeleteDC(dc);
+  DeleteObject(copy);
+  DeleteObject(mono);
+}
+
+TEST(PictureLoading, IconsAreTheBestFitWithMaskAndAlpha) {
+  LeakCheck leaks;
+  const Bytes file = SeveralIcons();
+  const StdPicture picture = LoadPictureData(file);
+  ASSERT_EQ(picture.Type(), PICTYPE_ICON);
+  EXPECT_EQ(picture.Width(), StdPicture::PixelsToHiMetric(32));
+  EXPECT_EQ(picture.Height(), StdPicture::PixelsToHiMetric(32));
+  EXPECT_EQ(ReadIconPixels(picture.Icon()), DecodeIco(file));
+
+  const StdPicture small = LoadPictureData(file, "icons", {16, 16, 32});
+  EXPECT_EQ(small.Width(), StdPicture::PixelsToHiMetric(16));
+  const IconImage smallPixels = ReadIconPixels(small.Icon());
+  EXPECT_EQ(PixelAt(smallPixels.color, 5, 5), 0x00FF0000u);  // no alpha: the mask decides
 }
 
 TEST(PictureLoading, PngBecomesAnOpaqueBitmap) {
@@ -63,6 +119,12 @@ TEST(PictureSaving, SavedBytesLoadToTheSamePixelsAndSaveAlike) {
   const StdPicture bitmapAgain = LoadPictureData(bitmapBytes);
   EXPECT_EQ(ReadBitmapPixels(bitmapAgain.Bitmap()), ReadBitmapPixels(bitmap.Bitmap()));
   EXPECT_EQ(SavePictureData(bitmapAgain), bitmapBytes);
+
+  const StdPicture icon = LoadPictureData(SeveralIcons());
+  const Bytes iconBytes = SavePictureData(icon);
+  const StdPicture iconAgain = LoadPictureData(iconBytes);
+  EXPECT_EQ(ReadIconPixels(iconAgain.Icon()), ReadIconPixels(icon.Icon()));
+  EXPECT_EQ(SavePictureData(iconAgain), iconBytes);
 }
 
 TEST(PictureSaving, DeviceBitmapsFromElsewhereSaveToo) {
