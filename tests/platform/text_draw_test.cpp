@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <climits>
 #include <initializer_list>
 #include <utility>
 
@@ -145,6 +146,10 @@ TEST_F(DrawTextLayout, SingleLineCanBeCentredOrBottomAlignedVertically) {
   // 0 + 40 / 2 - 13 / 2 = 14, and 40 - 13 = 27.
   EXPECT_TRUE(DrawsLines("ab", RECT{0, 0, 100, 40}, DT_SINGLELINE | DT_VCENTER, {{{0, 14}, "ab"}}));
   EXPECT_TRUE(DrawsLines("ab", RECT{0, 0, 100, 40}, DT_SINGLELINE | DT_BOTTOM, {{{0, 27}, "ab"}}));
+  // The result is then the distance from the top to the bottom of the text.
+  RECT rect{0, 0, 100, 40};
+  EXPECT_EQ(DrawTextA(canvas_.Dc(), "ab", -1, &rect, DT_SINGLELINE | DT_VCENTER), 27);
+  EXPECT_EQ(DrawTextA(canvas_.Dc(), "ab", -1, &rect, DT_SINGLELINE | DT_BOTTOM), 40);
   // Vertical placement applies to single lines only.
   EXPECT_TRUE(DrawsLines("ab", RECT{0, 0, 100, 40}, DT_VCENTER, {{{0, 0}, "ab"}}));
 }
@@ -167,6 +172,22 @@ TEST_F(DrawTextLayout, TextIsClippedToTheRectangleUnlessNoClip) {
   EXPECT_EQ(canvas_.InkIn(20, 0, 100, 60), 0);
   DrawTextA(canvas_.Dc(), "mmmm", -1, &rect, DT_NOCLIP);
   EXPECT_GT(canvas_.InkIn(20, 0, 100, 13), 0);
+}
+
+TEST_F(DrawTextLayout, ExtremeCoordinatesNeitherOverflowNorCrash) {
+  RECT everything{INT_MIN, INT_MIN, INT_MAX, INT_MAX};
+  EXPECT_EQ(DrawTextA(canvas_.Dc(), "ab cd\nef", -1, &everything, DT_WORDBREAK | DT_RIGHT), 26);
+  EXPECT_EQ(DrawTextA(canvas_.Dc(), "ab", -1, &everything, DT_SINGLELINE | DT_VCENTER), INT_MAX);
+  RECT bottomRight{INT_MAX - 5, INT_MAX - 5, INT_MAX, INT_MAX};
+  EXPECT_EQ(DrawTextA(canvas_.Dc(), "ab\ncd", -1, &bottomRight, DT_CALCRECT), 26);
+  EXPECT_EQ(bottomRight.right, INT_MAX);
+  SetTextAlign(canvas_.Dc(), TA_UPDATECP);
+  MoveToEx(canvas_.Dc(), INT_MAX - 3, INT_MIN, nullptr);
+  EXPECT_TRUE(TextOutA(canvas_.Dc(), 0, 0, "ab", 2));
+  POINT position{};
+  GetCurrentPositionEx(canvas_.Dc(), &position);
+  EXPECT_EQ(position.x, INT_MAX);
+  EXPECT_EQ(canvas_.InkTotal(), 0);
 }
 
 }  // namespace

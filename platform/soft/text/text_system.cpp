@@ -29,6 +29,14 @@ int MaxLines(const RECT& rect, UINT format, int lineHeight) {
   return static_cast<int>(std::min<long long>(room / lineHeight + 2, INT_MAX));
 }
 
+int ToInt(long long value) { return static_cast<int>(std::clamp<long long>(value, INT_MIN, INT_MAX)); }
+
+// Positions far off any surface are pulled in to where adding a line's width cannot overflow.
+int ToPosition(long long value) {
+  constexpr long long kFar = 1LL << 29;
+  return static_cast<int>(std::clamp(value, -kFar, kFar));
+}
+
 }  // namespace
 
 TextSystem::TextSystem(SoftEngine& engine)
@@ -99,23 +107,23 @@ void TextSystem::TextOut(DcObject& dc, int x, int y, const char* text, std::size
     x = a.position.x;
     y = a.position.y;
   }
-  int left = x;
+  long long left = x;
   switch (a.textAlign & TA_CENTER) {
-    case TA_CENTER: left = x - line.width / 2; break;
-    case TA_RIGHT: left = x - line.width; break;
+    case TA_CENTER: left -= line.width / 2; break;
+    case TA_RIGHT: left -= line.width; break;
     default: break;
   }
-  int top = y;
+  long long top = y;
   switch (a.textAlign & TA_BASELINE) {
-    case TA_BASELINE: top = y - font.Metrics().tmAscent; break;
-    case TA_BOTTOM: top = y - font.Metrics().tmHeight; break;
+    case TA_BASELINE: top -= font.Metrics().tmAscent; break;
+    case TA_BOTTOM: top -= font.Metrics().tmHeight; break;
     default: break;
   }
   if (updateCurrentPosition) {
-    if ((a.textAlign & TA_CENTER) == TA_LEFT) a.position.x += line.width;
-    if ((a.textAlign & TA_CENTER) == TA_RIGHT) a.position.x -= line.width;
+    if ((a.textAlign & TA_CENTER) == TA_LEFT) a.position.x = ToInt(1LL * x + line.width);
+    if ((a.textAlign & TA_CENTER) == TA_RIGHT) a.position.x = ToInt(1LL * x - line.width);
   }
-  if (dc.surface) PaintLine(dc, font, line, left, top, kUnclipped, nullptr);
+  if (dc.surface) PaintLine(dc, font, line, ToPosition(left), ToPosition(top), kUnclipped, nullptr);
 }
 
 int TextSystem::DrawText(DcObject& dc, const char* text, std::size_t size, RECT& rect,
@@ -134,37 +142,39 @@ int TextSystem::DrawText(DcObject& dc, const char* text, std::size_t size, RECT&
   const bool clipped = (format & DT_NOCLIP) == 0;
 
   ReadText(font, text, size, (format & DT_NOPREFIX) == 0, (format & DT_SINGLELINE) == 0, chars_);
-  BreakLines(chars_, rect.right - rect.left, format, MaxLines(rect, format, lineHeight), lines_);
+  const long long left = rect.left, top = rect.top, right = rect.right, bottom = rect.bottom;
+  BreakLines(chars_, ToInt(right - left), format, MaxLines(rect, format, lineHeight), lines_);
 
-  int y = rect.top;
+  long long y = top;
   int maxWidth = 0;
   for (const LayoutLine& line : lines_) {
-    int x = rect.left;
+    long long x = left;
     if ((format & DT_CENTER) != 0) {
-      x = (rect.left + rect.right - line.width) / 2;
+      x = (left + right - line.width) / 2;
     } else if ((format & DT_RIGHT) != 0) {
-      x = rect.right - line.width;
+      x = right - line.width;
     }
     if ((format & DT_SINGLELINE) != 0) {
       if ((format & DT_VCENTER) != 0) {
-        y = rect.top + (rect.bottom - rect.top) / 2 - lineHeight / 2;
+        y = top + (bottom - top) / 2 - lineHeight / 2;
       } else if ((format & DT_BOTTOM) != 0) {
-        y = rect.bottom - lineHeight;
+        y = bottom - lineHeight;
       }
     }
     if ((format & DT_CALCRECT) != 0) {
       maxWidth = std::max(maxWidth, line.width);
     } else if (dc.surface) {
-      PaintLine(dc, font, line, x, y, clipped ? rect : kUnclipped, clipped ? &rect : nullptr);
+      PaintLine(dc, font, line, ToPosition(x), ToPosition(y), clipped ? rect : kUnclipped,
+                clipped ? &rect : nullptr);
     }
     y += lineHeight;
   }
   if ((format & DT_CALCRECT) != 0) {
-    rect.right = rect.left + maxWidth;
-    rect.bottom = y;
+    rect.right = ToInt(left + maxWidth);
+    rect.bottom = ToInt(y);
   }
-  const int height = y - rect.top;
-  return height != 0 ? height : 1;
+  const long long height = y - top;
+  return height != 0 ? ToInt(height) : 1;
 }
 
 void TextSystem::PaintLine(DcObject& dc, const RealizedFont& font, const LayoutLine& line, int x,
