@@ -3,15 +3,10 @@
 #include <cstring>
 
 #include "platform/soft/soft_engine.h"
+#include "platform/soft/user/rects.h"
 #include "platform/soft/user/user_system.h"
 
 namespace glyphon::win::soft {
-
-namespace {
-bool Contains(const RECT& r, POINT p) {
-  return p.x >= r.left && p.x < r.right && p.y >= r.top && p.y < r.bottom;
-}
-}  // namespace
 
 POINT UserSystem::ClientOrigin(const WindowObject& window) const {
   POINT origin{window.rect.left, window.rect.top};
@@ -84,8 +79,12 @@ BOOL UserSystem::MoveWindow(HWND hwnd, int x, int y, int width, int height, BOOL
   const int oldWidth = window->Width();
   const int oldHeight = window->Height();
   const bool resized = oldWidth != width || oldHeight != height;
-  if (resized) Resize(hwnd, width, height);
   window->rect = RECT{x, y, x + width, y + height};
+  if (resized) {
+    Resize(hwnd, width, height);
+    window->updateRect = Intersect(window->updateRect, RECT{0, 0, width, height});
+    window->needsPaint = window->needsPaint && !IsEmpty(window->updateRect);
+  }
   if (repaint && resized) {
     // Newly exposed parts need painting; the whole window when its class redraws on resizing.
     const UINT classStyle = window->windowClass->style;

@@ -3,22 +3,10 @@
 #include <cstring>
 
 #include "platform/soft/soft_engine.h"
+#include "platform/soft/user/rects.h"
 #include "platform/soft/user/user_system.h"
 
 namespace glyphon::win::soft {
-
-namespace {
-
-RECT Intersect(const RECT& a, const RECT& b) {
-  return RECT{std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-              std::min(a.bottom, b.bottom)};
-}
-bool IsEmpty(const RECT& r) { return r.left >= r.right || r.top >= r.bottom; }
-RECT Offset(const RECT& r, int dx, int dy) {
-  return RECT{r.left + dx, r.top + dy, r.right + dx, r.bottom + dy};
-}
-
-}  // namespace
 
 HDC UserSystem::GetDC(HWND hwnd) {
   if (hwnd == nullptr) return engine_.NewDc(DcKind::Screen, engine_.Screen(), nullptr);
@@ -44,12 +32,7 @@ void UserSystem::Invalidate(HWND hwnd, RECT area, bool erase) {
   WindowObject* window = Window(hwnd);
   area = Intersect(area, RECT{0, 0, window->Width(), window->Height()});
   if (IsEmpty(area)) return;
-  window->updateRect = window->needsPaint
-                           ? RECT{std::min(window->updateRect.left, area.left),
-                                  std::min(window->updateRect.top, area.top),
-                                  std::max(window->updateRect.right, area.right),
-                                  std::max(window->updateRect.bottom, area.bottom)}
-                           : area;
+  window->updateRect = window->needsPaint ? Bounds(window->updateRect, area) : area;
   window->needsPaint = true;
   window->needsErase = window->needsErase || erase;
   if ((window->style & WS_CLIPCHILDREN) != 0) return;

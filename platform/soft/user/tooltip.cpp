@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "platform/soft/soft_engine.h"
+#include "platform/soft/user/rects.h"
 
 namespace glyphon::win::soft {
 
@@ -11,7 +12,8 @@ namespace {
 
 constexpr UINT_PTR kShowTimer = 1;
 constexpr UINT_PTR kPopTimer = 2;
-constexpr UINT_PTR kLeaveTimer = 3;  // checks that the pointer is still on the tool
+// While the pointer is on a tool this watches for it leaving without a relayed move.
+constexpr UINT_PTR kLeaveTimer = 3;
 constexpr int kBorder = 1;
 constexpr int kMargin = 2;
 constexpr int kCursorHeight = 20;  // the tip goes below the arrow
@@ -24,10 +26,6 @@ std::string TipText(LPCSTR text) {
   const char* end = text;
   while (static_cast<std::size_t>(end - text) < kMaxText && *end != '\0') ++end;
   return std::string(text, end);
-}
-
-bool Contains(const RECT& r, POINT p) {
-  return p.x >= r.left && p.x < r.right && p.y >= r.top && p.y < r.bottom;
 }
 
 }  // namespace
@@ -112,21 +110,15 @@ void Tooltip::DeleteTool(const TOOLINFOA* info) {
   auto it = std::find_if(tools_.begin(), tools_.end(), matches);
   if (it == tools_.end()) return;
   const std::uint64_t serial = it->serial;
-  if (hover_ == serial) {
-    hover_ = 0;
-    KillTimer(self_, kShowTimer);
-  }
   const HWND self = self_;
-  if (shown_ == serial) Hide();
+  if (hover_ == serial) Leave();
   if (!IsWindow(self)) return;
   std::erase_if(tools_, [serial](const Tool& t) { return t.serial == serial; });
 }
 
 void Tooltip::Activate(bool active) {
   active_ = active;
-  if (active) return;
-  KillTimer(self_, kShowTimer);
-  Hide();
+  if (!active) Leave();
 }
 
 // ---- Pointer tracking ---------------------------------------------------------------------------
@@ -141,7 +133,7 @@ void Tooltip::Relay(const MSG* msg) {
     case WM_MBUTTONDOWN:
     case WM_MBUTTONUP:
       KillTimer(self_, kShowTimer);
-      suppressed_ = true;
+      suppressed_ = hover_ != 0;
       Hide();
       return;
     case WM_MOUSEMOVE: {
@@ -150,16 +142,13 @@ void Tooltip::Relay(const MSG* msg) {
       if (tool != hover_) {
         // Passing straight from one tip to the next tool shows the next tip sooner.
         const bool wasShown = shown_ != 0;
-        KillTimer(self_, kShowTimer);
-        hover_ = tool;
-        suppressed_ = false;
-        lastPoint_ = point;
         const HWND self = self_;
-        Hide();
-        if (!IsWindow(self)) return;
-        if (hover_ != 0 && active_) {
-          SetTimer(self_, kShowTimer, wasShown ? kReshowDelay : kInitialDelay, nullptr);
-        }
+        Leave();
+        if (!IsWindow(self) || tool == 0) return;
+        hover_ = tool;
+        lastPoint_ = point;
+        SetTimer(self_, kLeaveTimer, kReshowDelay, nullptr);
+        if (active_) SetTimer(self_, kShowTimer, wasShown ? kReshowDelay : kInitialDelay, nullptr);
       } else if (hover_ != 0 && shown_ == 0 && !suppressed_ && active_ &&
                  (point.x != lastPoint_.x || point.y != lastPoint_.y)) {
         // The delay counts from when the pointer comes to rest.
@@ -172,6 +161,15 @@ void Tooltip::Relay(const MSG* msg) {
   }
 }
 
+// The pointer is off the tool: everything starts again with the next tool it enters.
+void Tooltip::Leave() {
+  hover_ = 0;
+  suppressed_ = false;
+  KillTimer(self_, kShowTimer);
+  KillTimer(self_, kLeaveTimer);
+  Hide();
+}
+
 void Tooltip::OnTimer(UINT_PTR id) {
   switch (id) {
     case kShowTimer:
@@ -180,7 +178,7 @@ void Tooltip::OnTimer(UINT_PTR id) {
       if (ToolUnderCursor() == hover_) {
         Show();
       } else {
-        hover_ = 0;  // the pointer left without a relayed move
+        Leave();  // the pointer left without a relayed move
       }
       return;
     case kPopTimer:
@@ -188,10 +186,7 @@ void Tooltip::OnTimer(UINT_PTR id) {
       Hide();
       return;
     case kLeaveTimer:
-      if (ToolUnderCursor() != shown_) {
-        hover_ = 0;
-        Hide();
-      }
+      if (ToolUnderCursor() != hover_) Leave();
       return;
     default: return;
   }
@@ -253,14 +248,12 @@ void Tooltip::Show() {
   ShowWindow(self, SW_SHOWNOACTIVATE);
   UpdateWindow(self);
   SetTimer(self, kPopTimer, kAutoPopDelay, nullptr);
-  SetTimer(self, kLeaveTimer, kReshowDelay, nullptr);
 }
 
 void Tooltip::Hide() {
   if (shown_ == 0) return;
   const HWND self = self_;
   KillTimer(self, kPopTimer);
-  KillTimer(self, kLeaveTimer);
   const Tool* tool = FindTool(shown_);
   shown_ = 0;
   if (tool != nullptr) {

@@ -46,6 +46,7 @@ class Tooltip final : public ControlState {
   void Activate(bool active);
   void Relay(const MSG* msg);
   void OnTimer(UINT_PTR id);
+  void Leave();
   void Show();
   void Hide();
   void Paint();
