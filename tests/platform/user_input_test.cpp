@@ -17,7 +17,9 @@ LRESULT FocusProbe(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
 std::vector<std::pair<HWND, UINT>> FocusTrail() {
   std::vector<std::pair<HWND, UINT>> trail;
   for (const Received& r : Log()) {
-    if (r.message == WM_KILLFOCUS || r.message == WM_SETFOCUS) trail.emplace_back(r.hwnd, r.message);
+    if (r.message == WM_KILLFOCUS || r.message == WM_SETFOCUS) {
+      trail.emplace_back(r.hwnd, r.message);
+    }
   }
   return trail;
 }

@@ -108,6 +108,19 @@ TEST_F(TooltipTest, TheTipAsksForItsTextAfterTheHoverDelayAndShowsBelowTheCursor
   EXPECT_GT(view.rect.right, view.rect.left);
   // The tip is not in the way of the pointer.
   EXPECT_EQ(WindowFromPoint({view.rect.left + 1, view.rect.top + 1}), form_);
+
+  // Painted in the tooltip colours inside a one-pixel frame, with the text on top.
+  const auto pixels = User().WindowPixels(tip_);
+  const auto background = soft::RgbToPixel32(GetSysColor(COLOR_INFOBK));
+  EXPECT_EQ(pixels->GetPixel(0, 0), soft::RgbToPixel32(GetSysColor(COLOR_WINDOWFRAME)));
+  EXPECT_EQ(pixels->GetPixel(1, 1), background);
+  bool inked = false;
+  for (int y = 3; y < pixels->Height() - 3; ++y) {
+    for (int x = 3; x < pixels->Width() - 3; ++x) {
+      inked = inked || pixels->GetPixel(x, y) != background;
+    }
+  }
+  EXPECT_TRUE(inked);
 }
 
 TEST_F(TooltipTest, MovingRestartsTheDelayAndTheAnswerMayComeInTheBuffer) {

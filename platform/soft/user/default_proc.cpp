@@ -39,7 +39,9 @@ LRESULT UserSystem::DefWindowProcA(HWND hwnd, UINT message, WPARAM wParam, LPARA
       const auto value = reinterpret_cast<std::uintptr_t>(brush);
       if (value == 0) return 0;
       // A class brush may name a system colour as COLOR_* + 1.
-      if (value <= SYSTEM_COLOR_COUNT) brush = engine_.GetSysColorBrush(static_cast<int>(value) - 1);
+      if (value <= SYSTEM_COLOR_COUNT) {
+        brush = engine_.GetSysColorBrush(static_cast<int>(value) - 1);
+      }
       const RECT client{0, 0, window->Width(), window->Height()};
       engine_.FillRect(reinterpret_cast<HDC>(wParam), &client, brush);
       return 1;

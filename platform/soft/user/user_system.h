@@ -40,7 +40,7 @@ struct UserHooks {
   std::function<int(HWND owner, LPCSTR text, LPCSTR caption, UINT type)> messageBox;
   // Default: silence.
   std::function<void(UINT type)> messageBeep;
-  // Default: the virtual clock moves on at once; no timer fires meanwhile, as the thread is blocked.
+  // Default: the virtual clock moves on at once; no timer fires meanwhile (the thread is blocked).
   std::function<void(DWORD milliseconds)> sleep;
   // Default: accepted (42). Every request is recorded either way (ShellRequests()).
   std::function<HINSTANCE(const ShellRequest& request)> shellExecute;

@@ -181,7 +181,9 @@ void UserSystem::ReleaseResources(HWND hwnd) {
   std::erase_if(posted_, [hwnd](const MSG& msg) { return msg.hwnd == hwnd; });
   std::vector<HDC> dcs;
   engine_.Objects().ForEach(ObjectKind::Dc, [&](std::uintptr_t handle, Object* object) {
-    if (static_cast<DcObject*>(object)->window == hwnd) dcs.push_back(reinterpret_cast<HDC>(handle));
+    if (static_cast<DcObject*>(object)->window == hwnd) {
+      dcs.push_back(reinterpret_cast<HDC>(handle));
+    }
   });
   for (HDC dc : dcs) engine_.DeleteDC(dc);
 }
