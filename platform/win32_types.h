@@ -263,17 +263,19 @@ struct NMTTDISPINFOA {
   LPARAM lParam;
 };
 
+struct PICTDESC_BITMAP {
+  HBITMAP hbitmap;
+  HPALETTE hpal;
+};
+struct PICTDESC_ICON {
+  HICON hicon;
+};
 struct PICTDESC {
   UINT cbSizeofstruct;
   UINT picType;
   union {
-    struct {
-      HBITMAP hbitmap;
-      HPALETTE hpal;
-    } bmp;
-    struct {
-      HICON hicon;
-    } icon;
+    PICTDESC_BITMAP bmp;
+    PICTDESC_ICON icon;
   };
 };
 
