@@ -50,7 +50,8 @@ std::optional<Image> CaptureThroughBlit(HDC hdc, const RECT& area) {
   bool copied = false;
   if (memory != nullptr && section != nullptr) {
     HGDIOBJ previous = SelectObject(memory, section);
-    copied = BitBlt(memory, 0, 0, image.width, image.height, hdc, area.left, area.top, SRCCOPY) != 0;
+    copied =
+        BitBlt(memory, 0, 0, image.width, image.height, hdc, area.left, area.top, SRCCOPY) != 0;
     if (copied) std::memcpy(image.bgra.data(), bits, image.bgra.size());
     SelectObject(memory, previous);
   }

@@ -34,7 +34,9 @@ struct Session {
   char message[160] = "";
 };
 
-Session& SessionOf(png_structp png) { return *static_cast<Session*>(png_get_error_ptr(png)); }
+Session& SessionOf(png_structp png) {
+  return *static_cast<Session*>(png_get_error_ptr(png));
+}
 
 [[noreturn]] void OnError(png_structp png, png_const_charp message) {
   Session& session = SessionOf(png);
@@ -94,7 +96,8 @@ bool DecodeInto(png_structp png, png_infop info, Session& session, Image& image)
   png_set_bgr(png);
   png_set_interlace_handling(png);
   png_read_update_info(png, info);
-  if (png_get_rowbytes(png, info) != std::size_t{width} * 4) png_error(png, "unexpected row layout");
+  if (png_get_rowbytes(png, info) != std::size_t{width} * 4)
+    png_error(png, "unexpected row layout");
   image.width = static_cast<int>(width);
   image.height = static_cast<int>(height);
   image.bgra.assign(std::size_t{width} * height * 4, 0);
@@ -216,7 +219,8 @@ bool WritePngFile(const Image& image, const std::filesystem::path& path, std::st
   std::optional<std::vector<std::uint8_t>> bytes = EncodePng(image, error);
   if (!bytes) return false;
   std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  file.write(reinterpret_cast<const char*>(bytes->data()), static_cast<std::streamsize>(bytes->size()));
+  file.write(reinterpret_cast<const char*>(bytes->data()),
+             static_cast<std::streamsize>(bytes->size()));
   file.close();
   if (!file) {
     SetError(error, "cannot write " + path.string());

@@ -27,7 +27,9 @@ struct Image {
   static Image Blank(int width, int height);
 
   bool Empty() const { return width <= 0 || height <= 0; }
-  std::uint8_t* Pixel(int x, int y) { return bgra.data() + (static_cast<std::size_t>(y) * width + x) * 4; }
+  std::uint8_t* Pixel(int x, int y) {
+    return bgra.data() + (static_cast<std::size_t>(y) * width + x) * 4;
+  }
   const std::uint8_t* Pixel(int x, int y) const {
     return bgra.data() + (static_cast<std::size_t>(y) * width + x) * 4;
   }
@@ -41,7 +43,8 @@ std::optional<Image> DecodePng(std::span<const std::uint8_t> data, std::string* 
 std::optional<Image> ReadPngFile(const std::filesystem::path& path, std::string* error = nullptr);
 
 // Encoding as 8-bit RGBA: the PNG bytes, or nothing with a message.
-std::optional<std::vector<std::uint8_t>> EncodePng(const Image& image, std::string* error = nullptr);
+std::optional<std::vector<std::uint8_t>> EncodePng(const Image& image,
+                                                   std::string* error = nullptr);
 bool WritePngFile(const Image& image, const std::filesystem::path& path,
                   std::string* error = nullptr);
 

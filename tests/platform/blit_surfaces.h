@@ -25,11 +25,20 @@ class MemorySurface {
       BITMAPINFOHEADER header;
       RGBQUAD colors[256];
     } info{};
-    info.header = {sizeof(BITMAPINFOHEADER), width, -height, 1, static_cast<WORD>(bitsPerPixel),
-                   BI_RGB, 0, 0, 0, 0, 0};
+    info.header = {sizeof(BITMAPINFOHEADER),
+                   width,
+                   -height,
+                   1,
+                   static_cast<WORD>(bitsPerPixel),
+                   BI_RGB,
+                   0,
+                   0,
+                   0,
+                   0,
+                   0};
     if (!table.empty()) std::memcpy(info.colors, table.data(), table.size() * sizeof(RGBQUAD));
-    Attach(CreateDIBSection(nullptr, reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS,
-                            &bits_, nullptr, 0));
+    Attach(CreateDIBSection(nullptr, reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS, &bits_,
+                            nullptr, 0));
   }
 
   ~MemorySurface() {
@@ -88,7 +97,8 @@ class MemorySurface {
       case 32: std::memcpy(row + x * 4, &v, 4); break;
       case 24: std::memcpy(row + x * 3, &v, 3); break;
       case 8: row[x] = static_cast<std::uint8_t>(v); break;
-      default: if (v & 1) row[x / 8] |= static_cast<std::uint8_t>(0x80 >> (x % 8));
+      default:
+        if (v & 1) row[x / 8] |= static_cast<std::uint8_t>(0x80 >> (x % 8));
     }
   }
 

@@ -12,7 +12,8 @@ constexpr std::uint32_t kRed = 0xFF0000, kGreen = 0x00FF00, kBlue = 0x0000FF;
 constexpr std::uint32_t kWhite = 0xFFFFFF, kMagenta = 0xFF00FF;
 
 constexpr RGBQUAD Quad(std::uint32_t rgb) {
-  return RGBQUAD{static_cast<BYTE>(rgb), static_cast<BYTE>(rgb >> 8), static_cast<BYTE>(rgb >> 16), 0};
+  return RGBQUAD{static_cast<BYTE>(rgb), static_cast<BYTE>(rgb >> 8), static_cast<BYTE>(rgb >> 16),
+                 0};
 }
 
 // A monochrome pattern brush whose rows are all `bits` (most significant bit leftmost).
@@ -58,9 +59,9 @@ TEST(Blit, TheCodesPaintingUsesCombineMonochromeBitsExactly) {
     DWORD rop;
     Values expected;
   } cases[] = {
-      {SRCCOPY, {1, 1, 0, 0}}, {SRCAND, {1, 0, 0, 0}},     {SRCPAINT, {1, 1, 1, 0}},
+      {SRCCOPY, {1, 1, 0, 0}},    {SRCAND, {1, 0, 0, 0}},    {SRCPAINT, {1, 1, 1, 0}},
       {0x00220326, {0, 0, 1, 0}}, {SRCINVERT, {0, 1, 1, 0}}, {NOTSRCCOPY, {0, 0, 1, 1}},
-      {DSTINVERT, {0, 1, 0, 1}}, {BLACKNESS, {0, 0, 0, 0}},  {WHITENESS, {1, 1, 1, 1}},
+      {DSTINVERT, {0, 1, 0, 1}},  {BLACKNESS, {0, 0, 0, 0}}, {WHITENESS, {1, 1, 1, 1}},
   };
   for (const auto& c : cases) {
     destination.Set({1, 0, 1, 0});
@@ -73,7 +74,8 @@ TEST(Blit, TheCodesPaintingUsesCombineMonochromeBitsExactly) {
     DWORD rop;
     Values expected;
   } patternCases[] = {
-      {PATCOPY, {0, 0, 0, 0}},      {PATINVERT, {1, 0, 1, 0}},
+      {PATCOPY, {0, 0, 0, 0}},
+      {PATINVERT, {1, 0, 1, 0}},
       {0x00B8074A, {1, 0, 0, 0}},  // source ? destination : pattern
       {0x00E20746, {0, 0, 1, 0}},  // source ? pattern : destination
   };
@@ -157,7 +159,7 @@ TEST(Blit, TransparentCopyThroughAMonochromeMask) {
   EXPECT_EQ(mask.Get(), (Values{0, 1, 0, 1}));
   SetTextColor(image.dc(), RGB(0, 0, 0));
   SetBkColor(image.dc(), RGB(255, 255, 255));
-  BitBlt(image.dc(), 0, 0, 4, 1, mask.dc(), 0, 0, 0x00220326);  // key pixels turn black
+  BitBlt(image.dc(), 0, 0, 4, 1, mask.dc(), 0, 0, 0x00220326);   // key pixels turn black
   BitBlt(background.dc(), 0, 0, 4, 1, mask.dc(), 0, 0, SRCAND);  // holes where the image is
   BitBlt(background.dc(), 0, 0, 4, 1, image.dc(), 0, 0, SRCPAINT);
   EXPECT_EQ(background.Get(), (Values{kRed, kBlue, kGreen, kWhite}));
@@ -266,7 +268,7 @@ TEST(Blit, PatBltFillsWithTheBrushAndNeedsNoSource) {
   EXPECT_EQ(s.Get(), (Values{0, kRed, 0, kRed}));
   EXPECT_FALSE(PatBlt(s.dc(), 0, 0, 4, 1, SRCCOPY));
   SelectObject(s.dc(), GetStockObject(NULL_BRUSH));
-  EXPECT_TRUE(PatBlt(s.dc(), 0, 0, 4, 1, PATCOPY));  // a null brush paints nothing
+  EXPECT_TRUE(PatBlt(s.dc(), 0, 0, 4, 1, PATCOPY));    // a null brush paints nothing
   EXPECT_TRUE(PatBlt(s.dc(), 0, 0, 1, 1, DSTINVERT));  // but codes without pattern still apply
   EXPECT_EQ(s.Get(), (Values{0xFFFFFFFF, kRed, 0, kRed}));
   SelectObject(s.dc(), old);

@@ -19,8 +19,8 @@ struct Info {
 
 Info Header(int width, int height, int bits) {
   Info info;
-  info.header = {sizeof(BITMAPINFOHEADER), width, height, 1, static_cast<WORD>(bits), BI_RGB,
-                 0, 0, 0, 0, 0};
+  info.header = {
+      sizeof(BITMAPINFOHEADER), width, height, 1, static_cast<WORD>(bits), BI_RGB, 0, 0, 0, 0, 0};
   return info;
 }
 
@@ -187,8 +187,7 @@ TEST(DibSections, BitsRoundTripAtEveryDepth) {
 
     Info info = Header(n, 2, depth);
     std::vector<std::uint8_t> bits(64);
-    ASSERT_EQ(GetDIBits(dc, original, 0, 2, bits.data(), info.get(), DIB_RGB_COLORS), 2)
-        << depth;
+    ASSERT_EQ(GetDIBits(dc, original, 0, 2, bits.data(), info.get(), DIB_RGB_COLORS), 2) << depth;
     HBITMAP copy = CreateBitmap(n, 2, 1, 32, nullptr);
     info.header.biClrUsed = 0;
     ASSERT_EQ(SetDIBits(dc, copy, 0, 2, bits.data(), info.get(), DIB_RGB_COLORS), 2);

@@ -43,7 +43,8 @@ TEST_F(ImageCompare, ReportsCountAndFirstDifference) {
   actual.Pixel(3, 2)[0] = 0x34;
   const auto result = ImagesEqual(actual, Checker());
   EXPECT_FALSE(result);
-  EXPECT_STREQ(result.message(), "2 of 12 pixels differ; first at (2, 1): #12FFFFFF, expected #FFFFFFFF");
+  EXPECT_STREQ(result.message(),
+               "2 of 12 pixels differ; first at (2, 1): #12FFFFFF, expected #FFFFFFFF");
   EXPECT_STREQ(ImagesEqual(Image::Blank(2, 2), Checker()).message(), "size is 2x2, expected 4x3");
 }
 
@@ -66,7 +67,8 @@ TEST_F(ImageCompare, MismatchWritesActualAndDiffNextToExpected) {
   const auto result = BitmapMatchesPng(bitmap, expected);
   EXPECT_FALSE(result);
   EXPECT_NE(std::string(result.message()).find("1 of 12 pixels differ; first at (0, 0)"),
-            std::string::npos) << result.message();
+            std::string::npos)
+      << result.message();
   const auto actual = ReadPngFile(ActualPathFor(expected));
   ASSERT_TRUE(actual);
   EXPECT_EQ(actual->Pixel(0, 0)[0], 7);
@@ -108,7 +110,7 @@ TEST_F(ImageCompare, ComparesBitmapsAndDcAreas) {
   const auto area = dir_ / "area.png";
   ASSERT_TRUE(WritePngFile(Image::Blank(2, 1), area));
   const RECT inside{1, 1, 3, 2};
-  EXPECT_FALSE(DcAreaMatchesPng(dc, inside, area));  // white, not transparent black
+  EXPECT_FALSE(DcAreaMatchesPng(dc, inside, area));            // white, not transparent black
   EXPECT_FALSE(DcAreaMatchesPng(dc, RECT{2, 2, 4, 3}, area));  // leaves the bitmap
   SelectObject(dc, old);
   DeleteDC(dc);

@@ -11,8 +11,8 @@ namespace {
 
 Image Sample() {
   Image image = Image::Blank(3, 2);
-  const std::uint8_t pixels[] = {0, 0, 255, 255,   10, 20, 30, 0,    255, 255, 255, 128,
-                                 1, 2, 3, 4,        200, 100, 50, 255, 0, 0, 0, 255};
+  const std::uint8_t pixels[] = {0, 0, 255, 255, 10,  20,  30, 0,   255, 255, 255, 128,
+                                 1, 2, 3,   4,   200, 100, 50, 255, 0,   0,   0,   255};
   std::copy(std::begin(pixels), std::end(pixels), image.bgra.begin());
   return image;
 }
@@ -57,7 +57,8 @@ TEST(PngCodec, OtherFormatsComeOutAsEightBitBgra) {
   const std::uint8_t grey[] = {0x40, 0xC0};
   auto decoded = DecodePng(WriteWithLibpng(PNG_FORMAT_GRAY, grey, 2, nullptr, 0));
   ASSERT_TRUE(decoded);
-  EXPECT_EQ(decoded->bgra, (std::vector<std::uint8_t>{0x40, 0x40, 0x40, 255, 0xC0, 0xC0, 0xC0, 255}));
+  EXPECT_EQ(decoded->bgra,
+            (std::vector<std::uint8_t>{0x40, 0x40, 0x40, 255, 0xC0, 0xC0, 0xC0, 255}));
 
   // A palette with a transparent entry: tRNS becomes alpha.
   const std::uint8_t indices[] = {1, 0};

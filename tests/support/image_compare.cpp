@@ -89,9 +89,9 @@ std::filesystem::path DiffPathFor(const std::filesystem::path& expected) {
 
 ::testing::AssertionResult ImagesEqual(const Image& actual, const Image& expected) {
   if (actual.width != expected.width || actual.height != expected.height) {
-    return ::testing::AssertionFailure() << "size is " << actual.width << "x" << actual.height
-                                         << ", expected " << expected.width << "x"
-                                         << expected.height;
+    return ::testing::AssertionFailure()
+           << "size is " << actual.width << "x" << actual.height << ", expected " << expected.width
+           << "x" << expected.height;
   }
   long long count = 0;
   int firstX = -1;
@@ -105,8 +105,8 @@ std::filesystem::path DiffPathFor(const std::filesystem::path& expected) {
   if (count == 0) return ::testing::AssertionSuccess();
   return ::testing::AssertionFailure()
          << count << " of " << static_cast<long long>(expected.width) * expected.height
-         << " pixels differ; first at (" << firstX << ", " << firstY << "): "
-         << Hex(actual.Pixel(firstX, firstY)) << ", expected "
+         << " pixels differ; first at (" << firstX << ", " << firstY
+         << "): " << Hex(actual.Pixel(firstX, firstY)) << ", expected "
          << Hex(expected.Pixel(firstX, firstY));
 }
 

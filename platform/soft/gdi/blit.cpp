@@ -35,8 +35,12 @@ bool CopyRows(const Pixmap& from, const RECT& src, Pixmap& to, const RECT& dst) 
   const int bytesPerPixel = bitsPerPixel / 8;
   const auto rowBytes = static_cast<std::size_t>(dst.right - dst.left) * bytesPerPixel;
   const int rows = dst.bottom - dst.top;
-  auto source = [&](int i) { return from.Row(src.top + i) + static_cast<std::size_t>(src.left) * bytesPerPixel; };
-  auto target = [&](int i) { return to.Row(dst.top + i) + static_cast<std::size_t>(dst.left) * bytesPerPixel; };
+  auto source = [&](int i) {
+    return from.Row(src.top + i) + static_cast<std::size_t>(src.left) * bytesPerPixel;
+  };
+  auto target = [&](int i) {
+    return to.Row(dst.top + i) + static_cast<std::size_t>(dst.left) * bytesPerPixel;
+  };
   if (&from == &to) {
     // Within one surface: copy rows in the order that never overwrites a row still to be read.
     const bool downwards = dst.top > src.top;
@@ -65,7 +69,8 @@ void Combine(const SoftEngine& engine, const RasterTarget& target, const RECT& a
   const int width = area.right - area.left;
   if (width <= 0 || area.bottom <= area.top) return;
   const bool usesPattern = Rop3UsesPattern(rop);
-  const BrushPixels brush(usesPattern ? engine.Brush(target.dc->attributes.brush) : nullptr, target);
+  const BrushPixels brush(usesPattern ? engine.Brush(target.dc->attributes.brush) : nullptr,
+                          target);
   if (usesPattern && brush.PaintsNothing()) return;
   std::vector<PixelValue> row(static_cast<std::size_t>(width));
   std::vector<PixelValue> before(usesPattern ? row.size() : 0);
@@ -94,7 +99,8 @@ void Combine(const SoftEngine& engine, const RasterTarget& target, const RECT& a
 
 PixelBlock ReadBlock(const Pixmap& surface, const RECT& area) {
   PixelBlock block = NewBlock(area);
-  for (int y = area.top; y < area.bottom; ++y) ReadPixels(surface, area.left, y, block.Width(), block.Row(y));
+  for (int y = area.top; y < area.bottom; ++y)
+    ReadPixels(surface, area.left, y, block.Width(), block.Row(y));
   return block;
 }
 
@@ -111,7 +117,8 @@ BOOL TransferToTarget(const SoftEngine& engine, const RasterTarget& to, BlitSide
     return TRUE;
   }
   PixelBlock block = ReadBlock(*from.surface, src.visible);
-  for (int y = block.area.top; y < block.area.bottom; ++y) conversion.Apply(block.Row(y), block.Width());
+  for (int y = block.area.top; y < block.area.bottom; ++y)
+    conversion.Apply(block.Row(y), block.Width());
   if (stretching) {
     PixelBlock stretched;
     if (!StretchBlock(block, src, dst, to.dc->attributes.stretchMode, *to.surface, stretched)) {
@@ -130,8 +137,9 @@ BOOL Transfer(const SoftEngine& engine, HDC hdc, const BlitSide& dst, HDC hdcSou
   const RasterTarget to = ResolveTarget(engine, hdc);
   const RasterTarget from = ResolveTarget(engine, hdcSource);
   if (!to || !from) return FALSE;
-  const TransferSource source{from.surface, from.monochromeDevice,
-                              ResolveDcColor(engine, *from.dc, from.dc->attributes.backgroundColor)};
+  const TransferSource source{
+      from.surface, from.monochromeDevice,
+      ResolveDcColor(engine, *from.dc, from.dc->attributes.backgroundColor)};
   return TransferToTarget(engine, to, dst, source, src, rop);
 }
 
@@ -152,7 +160,8 @@ BOOL SoftEngine::PatBlt(HDC hdc, int x, int y, int width, int height, DWORD rop)
     }
     return TRUE;
   }
-  BrushRect(*target.surface, dst.visible, BrushPixels(Brush(target.dc->attributes.brush), target), mix);
+  BrushRect(*target.surface, dst.visible, BrushPixels(Brush(target.dc->attributes.brush), target),
+            mix);
   return TRUE;
 }
 

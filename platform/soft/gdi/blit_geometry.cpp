@@ -11,7 +11,9 @@ namespace {
 constexpr long long kIntMin = std::numeric_limits<int>::min();
 constexpr long long kIntMax = std::numeric_limits<int>::max();
 
-LONG Clamp(long long v) { return static_cast<LONG>(std::clamp(v, kIntMin, kIntMax)); }
+LONG Clamp(long long v) {
+  return static_cast<LONG>(std::clamp(v, kIntMin, kIntMax));
+}
 
 bool Intersect(RECT& out, const RECT& a, const RECT& b) {
   out = RECT{std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
@@ -36,7 +38,9 @@ LONG Scale(long long v, long long numerator, long long denominator) {
   return Clamp(v * numerator / denominator);
 }
 
-RECT SurfaceRect(const Pixmap& surface) { return RECT{0, 0, surface.Width(), surface.Height()}; }
+RECT SurfaceRect(const Pixmap& surface) {
+  return RECT{0, 0, surface.Width(), surface.Height()};
+}
 
 // Narrows both visible rectangles to the parts that map onto each other.
 bool IntersectSides(BlitSide& dst, BlitSide& src) {
@@ -47,7 +51,8 @@ bool IntersectSides(BlitSide& dst, BlitSide& src) {
     if (!Intersect(rect, rect, dst.visible)) return false;
     dst.visible = rect;
     src.visible = rect;
-    Offset(src.visible, static_cast<long long>(src.x) - dst.x, static_cast<long long>(src.y) - dst.y);
+    Offset(src.visible, static_cast<long long>(src.x) - dst.x,
+           static_cast<long long>(src.y) - dst.y);
     return true;
   }
   // Map the source area into destination coordinates.
@@ -60,18 +65,24 @@ bool IntersectSides(BlitSide& dst, BlitSide& src) {
   // A flipped source that does not fit its surface leaves the destination unflipped: GDI shifts
   // the destination instead.
   if (src.width < 0 && dst.width > 0 &&
-      (static_cast<long long>(src.x) + src.width + 1 < src.visible.left || src.x > src.visible.right)) {
+      (static_cast<long long>(src.x) + src.width + 1 < src.visible.left ||
+       src.x > src.visible.right)) {
     dst.x = Clamp(static_cast<long long>(dst.x) + (dst.width - rect.right) - rect.left);
   } else if (src.width > 0 && dst.width < 0 &&
-             (src.x < src.visible.left || static_cast<long long>(src.x) + src.width > src.visible.right)) {
-    dst.x = Clamp(static_cast<long long>(dst.x) - (rect.right - (static_cast<long long>(dst.width) - rect.left)));
+             (src.x < src.visible.left ||
+              static_cast<long long>(src.x) + src.width > src.visible.right)) {
+    dst.x = Clamp(static_cast<long long>(dst.x) -
+                  (rect.right - (static_cast<long long>(dst.width) - rect.left)));
   }
   if (src.height < 0 && dst.height > 0 &&
-      (static_cast<long long>(src.y) + src.height + 1 < src.visible.top || src.y > src.visible.bottom)) {
+      (static_cast<long long>(src.y) + src.height + 1 < src.visible.top ||
+       src.y > src.visible.bottom)) {
     dst.y = Clamp(static_cast<long long>(dst.y) + (dst.height - rect.bottom) - rect.top);
   } else if (src.height > 0 && dst.height < 0 &&
-             (src.y < src.visible.top || static_cast<long long>(src.y) + src.height > src.visible.bottom)) {
-    dst.y = Clamp(static_cast<long long>(dst.y) - (rect.bottom - (static_cast<long long>(dst.height) - rect.top)));
+             (src.y < src.visible.top ||
+              static_cast<long long>(src.y) + src.height > src.visible.bottom)) {
+    dst.y = Clamp(static_cast<long long>(dst.y) -
+                  (rect.bottom - (static_cast<long long>(dst.height) - rect.top)));
   }
   Offset(rect, dst.x, dst.y);
   Grow(rect);  // rounding may lose a pixel at either end
@@ -107,7 +118,8 @@ RECT BoundingRect(long long x, long long y, long long width, long long height) {
   return RECT{Clamp(left), Clamp(top), Clamp(right), Clamp(bottom)};
 }
 
-bool ClipTransfer(BlitSide& dst, const Pixmap& dstSurface, BlitSide* src, const Pixmap* srcSurface) {
+bool ClipTransfer(BlitSide& dst, const Pixmap& dstSurface, BlitSide* src,
+                  const Pixmap* srcSurface) {
   const bool dstVisible = Intersect(dst.visible, BoundingRect(dst.x, dst.y, dst.width, dst.height),
                                     SurfaceRect(dstSurface));
   if (src == nullptr) return dstVisible;

@@ -15,15 +15,16 @@ constexpr std::array<RGBQUAD, 10> kFirstStatic = {
     Rgb(0, 0, 0),     Rgb(128, 0, 0),   Rgb(0, 128, 0),     Rgb(128, 128, 0),   Rgb(0, 0, 128),
     Rgb(128, 0, 128), Rgb(0, 128, 128), Rgb(192, 192, 192), Rgb(192, 220, 192), Rgb(166, 202, 240)};
 constexpr std::array<RGBQUAD, 10> kLastStatic = {
-    Rgb(255, 251, 240), Rgb(160, 160, 164), Rgb(128, 128, 128), Rgb(255, 0, 0),   Rgb(0, 255, 0),
-    Rgb(255, 255, 0),   Rgb(0, 0, 255),     Rgb(255, 0, 255),   Rgb(0, 255, 255), Rgb(255, 255, 255)};
+    Rgb(255, 251, 240), Rgb(160, 160, 164), Rgb(128, 128, 128), Rgb(255, 0, 0),
+    Rgb(0, 255, 0),     Rgb(255, 255, 0),   Rgb(0, 0, 255),     Rgb(255, 0, 255),
+    Rgb(0, 255, 255),   Rgb(255, 255, 255)};
 
 constexpr std::array<RGBQUAD, 2> kTable1 = {Rgb(0, 0, 0), Rgb(255, 255, 255)};
 
 constexpr std::array<RGBQUAD, 16> kTable4 = {
-    Rgb(0, 0, 0),       Rgb(128, 0, 0), Rgb(0, 128, 0), Rgb(128, 128, 0),
+    Rgb(0, 0, 0),       Rgb(128, 0, 0),   Rgb(0, 128, 0),   Rgb(128, 128, 0),
     Rgb(0, 0, 128),     Rgb(128, 0, 128), Rgb(0, 128, 128), Rgb(128, 128, 128),
-    Rgb(192, 192, 192), Rgb(255, 0, 0), Rgb(0, 255, 0), Rgb(255, 255, 0),
+    Rgb(192, 192, 192), Rgb(255, 0, 0),   Rgb(0, 255, 0),   Rgb(255, 255, 0),
     Rgb(0, 0, 255),     Rgb(255, 0, 255), Rgb(0, 255, 255), Rgb(255, 255, 255)};
 
 // Between the static colours: 8 levels of red and green and 4 of blue, from the index bits.

@@ -10,7 +10,8 @@ int DibFormat::Stride() const {
 }
 
 std::shared_ptr<Pixmap> DibFormat::NewPixmap(int rows) const {
-  auto pixmap = Pixmap::Create(width, rows, bitsPerPixel, topDown, Pixmap::RowAlignment::DoubleWord);
+  auto pixmap =
+      Pixmap::Create(width, rows, bitsPerPixel, topDown, Pixmap::RowAlignment::DoubleWord);
   if (pixmap && bitsPerPixel <= 8) pixmap->ColorTable() = colorTable;
   return pixmap;
 }
@@ -18,7 +19,10 @@ std::shared_ptr<Pixmap> DibFormat::NewPixmap(int rows) const {
 bool IsSupportedDibLayout(const BITMAPINFO& info) {
   const BITMAPINFOHEADER& h = info.bmiHeader;
   switch (h.biBitCount) {
-    case 1: case 4: case 8: case 24: return h.biCompression == BI_RGB;
+    case 1:
+    case 4:
+    case 8:
+    case 24: return h.biCompression == BI_RGB;
     case 32: {
       if (h.biCompression == BI_RGB) return true;
       if (h.biCompression != BI_BITFIELDS) return false;
@@ -47,7 +51,8 @@ std::optional<DibFormat> ReadDibFormat(const BITMAPINFO* info, UINT usage,
   if (format.bitsPerPixel > 8) return format;
 
   const std::size_t maxColors = std::size_t{1} << format.bitsPerPixel;
-  const std::size_t colors = h.biClrUsed == 0 ? maxColors : std::min<std::size_t>(h.biClrUsed, maxColors);
+  const std::size_t colors =
+      h.biClrUsed == 0 ? maxColors : std::min<std::size_t>(h.biClrUsed, maxColors);
   format.colorTable.assign(maxColors, RGBQUAD{0, 0, 0, 0});
   const BYTE* table = ColorTableOf(*info);
   if (usage == DIB_RGB_COLORS) {

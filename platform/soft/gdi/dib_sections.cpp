@@ -147,8 +147,8 @@ int SoftEngine::GetDIBits(HDC hdc, HBITMAP handle, UINT start, UINT lines, void*
   if (Dc(hdc) == nullptr || bitmap == nullptr) return 0;
   const Pixmap& source = *bitmap->pixmap;
   BITMAPINFOHEADER& header = info->bmiHeader;
-  const long long dibRows = header.biHeight < 0 ? -static_cast<long long>(header.biHeight)
-                                                : header.biHeight;
+  const long long dibRows =
+      header.biHeight < 0 ? -static_cast<long long>(header.biHeight) : header.biHeight;
   if (lines == 0 || start >= dibRows) bits = nullptr;
   // A top-down request for more scans than there are above start is cut to those.
   const long long scans = header.biHeight < 0 ? std::min<long long>(lines, dibRows - start) : lines;
@@ -183,7 +183,8 @@ int SoftEngine::GetDIBits(HDC hdc, HBITMAP handle, UINT start, UINT lines, void*
     // Rows of the requested range that the bitmap does not cover come out zeroed.
     auto* out = static_cast<std::uint8_t*>(bits);
     if (format.topDown) {
-      std::memset(out + range.count * stride, 0, static_cast<std::size_t>(scans - range.count) * stride);
+      std::memset(out + range.count * stride, 0,
+                  static_cast<std::size_t>(scans - range.count) * stride);
     } else {
       const std::size_t pad = static_cast<std::size_t>(format.height - range.dibRow - range.count);
       std::memset(out, 0, pad * stride);
@@ -194,7 +195,8 @@ int SoftEngine::GetDIBits(HDC hdc, HBITMAP handle, UINT start, UINT lines, void*
   }
   if (format.bitsPerPixel <= 8) WriteColorTable(*info, format.colorTable, usage);
   header.biClrUsed = 0;
-  header.biSizeImage = static_cast<DWORD>(static_cast<std::size_t>(format.Stride()) * format.height);
+  header.biSizeImage =
+      static_cast<DWORD>(static_cast<std::size_t>(format.Stride()) * format.height);
   return result;
 }
 
@@ -206,7 +208,8 @@ int SoftEngine::SetDIBits(HDC hdc, HBITMAP handle, UINT start, UINT lines, const
   if (start >= static_cast<UINT>(format->height)) return 0;
   // A bottom-up DIB never supplies more scans than it has above start; a top-down one is taken
   // at its word, but only its own rows are read.
-  const long long scans = format->topDown ? lines : std::min<long long>(lines, format->height - start);
+  const long long scans =
+      format->topDown ? lines : std::min<long long>(lines, format->height - start);
   const int available = static_cast<int>(std::min<long long>(scans, format->height));
   if (available <= 0) return 0;
   Pixmap& target = *bitmap->pixmap;

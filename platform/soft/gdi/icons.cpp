@@ -75,7 +75,8 @@ PixelBlock Premultiplied(const Pixmap& color) {
   for (PixelValue& v : block.values) {
     const PixelValue a = v >> 24;
     auto scale = [a](PixelValue c) { return (c * a + 127) / 255; };
-    v = (a << 24) | (scale((v >> 16) & 0xFF) << 16) | (scale((v >> 8) & 0xFF) << 8) | scale(v & 0xFF);
+    v = (a << 24) | (scale((v >> 16) & 0xFF) << 16) | (scale((v >> 8) & 0xFF) << 8) |
+        scale(v & 0xFF);
   }
   return block;
 }
@@ -95,7 +96,8 @@ PixelValue BlendPixel(PixelValue dst, PixelValue src, bool withAlphaByte) {
 
 // AlphaBlend of the premultiplied image over the target, stretched with COLORONCOLOR. False
 // when GDI's AlphaBlend would refuse (negative extents), so the caller falls back to the masks.
-bool BlendIcon(const RasterTarget& target, int x, int y, int width, int height, const Pixmap& color) {
+bool BlendIcon(const RasterTarget& target, int x, int y, int width, int height,
+               const Pixmap& color) {
   if (width < 0 || height < 0) return false;
   BlitSide dst{x, y, width, height, {}};
   BlitSide src{0, 0, color.Width(), color.Height(), {}};
@@ -138,8 +140,8 @@ void DrawWithMasks(const SoftEngine& engine, const RasterTarget& target, const B
       TransferToTarget(engine, target, dst, TransferSource{icon.color.get(), false},
                        BlitSide{0, 0, frameWidth, frameHeight, {}}, rop);
     } else {
-      TransferToTarget(engine, target, dst, mask, BlitSide{0, frameHeight, frameWidth, frameHeight, {}},
-                       rop);
+      TransferToTarget(engine, target, dst, mask,
+                       BlitSide{0, frameHeight, frameWidth, frameHeight, {}}, rop);
     }
   }
 }
@@ -154,7 +156,8 @@ void DrawFrame(const SoftEngine& engine, const RasterTarget& target, int x, int 
       BlendIcon(target, x, y, width, height, *icon.color)) {
     return;
   }
-  DrawWithMasks(engine, target, BlitSide{x, y, width, height, {}}, icon, frameWidth, frameHeight, flags);
+  DrawWithMasks(engine, target, BlitSide{x, y, width, height, {}}, icon, frameWidth, frameHeight,
+                flags);
 }
 
 }  // namespace
@@ -173,8 +176,9 @@ HICON SoftEngine::CreateIconIndirect(ICONINFO* info) {
   if (color != nullptr) icon->color = CopyIntoNew(*this, *color, width, height, 32);
   if (!icon->mask || (color != nullptr && !icon->color)) return nullptr;
   const int frameHeight = color != nullptr ? height : height / 2;
-  icon->hotspot = icon->isIcon ? POINT{width / 2, frameHeight / 2}
-                               : POINT{static_cast<LONG>(info->xHotspot), static_cast<LONG>(info->yHotspot)};
+  icon->hotspot = icon->isIcon
+                      ? POINT{width / 2, frameHeight / 2}
+                      : POINT{static_cast<LONG>(info->xHotspot), static_cast<LONG>(info->yHotspot)};
   return AddObject<HICON>(std::move(icon));
 }
 
@@ -225,7 +229,8 @@ BOOL SoftEngine::DrawIconEx(HDC hdc, int x, int y, HICON handle, int width, int 
     HGDIOBJ oldBrush = SelectObject(composer, flickerFreeBrush);
     PatBlt(composer, 0, 0, width, height, PATCOPY);
     SelectObject(composer, oldBrush);
-    if (const RasterTarget scratch = ResolveTarget(*this, composer); scratch && oldBitmap != nullptr) {
+    if (const RasterTarget scratch = ResolveTarget(*this, composer);
+        scratch && oldBitmap != nullptr) {
       DrawFrame(*this, scratch, 0, 0, width, height, *icon, flags);
       BitBlt(hdc, x, y, width, height, composer, 0, 0, SRCCOPY);
     }

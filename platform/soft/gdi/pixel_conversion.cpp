@@ -45,8 +45,8 @@ PixelConversion PixelConversion::FromTable(const Side& from, const Side& to) {
       c.lookup_[i] = i == backgroundIndex ? 1 : 0;
       continue;
     }
-    const COLORREF color = from.deviceMonochrome ? (i == 0 ? to.text : to.background)
-                                                 : source.PixelToColor(i);
+    const COLORREF color =
+        from.deviceMonochrome ? (i == 0 ? to.text : to.background) : source.PixelToColor(i);
     c.lookup_[i] = to.pixmap->ColorToPixel(color);
   }
   return c;

@@ -19,7 +19,8 @@ void ReadPixels(const Pixmap& pixmap, int x, int y, int count, PixelValue* out) 
       std::memcpy(out, row + static_cast<std::size_t>(x) * 4, static_cast<std::size_t>(count) * 4);
       return;
     case 24:
-      for (const std::uint8_t* p = row + static_cast<std::size_t>(x) * 3; count > 0; --count, p += 3) {
+      for (const std::uint8_t* p = row + static_cast<std::size_t>(x) * 3; count > 0;
+           --count, p += 3) {
         *out++ = p[0] | (p[1] << 8) | (p[2] << 16);
       }
       return;

@@ -24,8 +24,8 @@ template <class F>
 void ForEach(const PixelValue* pattern, const PixelValue* source, PixelValue* destination,
              int count, F f) {
   for (int i = 0; i < count; ++i) {
-    destination[i] = f(pattern != nullptr ? pattern[i] : 0, source != nullptr ? source[i] : 0,
-                       destination[i]);
+    destination[i] =
+        f(pattern != nullptr ? pattern[i] : 0, source != nullptr ? source[i] : 0, destination[i]);
   }
 }
 
@@ -47,9 +47,15 @@ void ApplyRop3Row(std::uint8_t index, const PixelValue* p, const PixelValue* s, 
     case 0x55: ForEach(p, s, d, count, [](V, V, V dst) { return ~dst; }); return;
     case 0x00: ForEach(p, s, d, count, [](V, V, V) { return V{0}; }); return;
     case 0xFF: ForEach(p, s, d, count, [](V, V, V) { return ~V{0}; }); return;
-    case 0xB8: ForEach(p, s, d, count, [](V pat, V src, V dst) { return ((dst ^ pat) & src) ^ pat; }); return;
-    case 0xE2: ForEach(p, s, d, count, [](V pat, V src, V dst) { return ((pat ^ dst) & src) ^ dst; }); return;
-    default: ForEach(p, s, d, count, [index](V pat, V src, V dst) { return Evaluate(index, pat, src, dst); });
+    case 0xB8:
+      ForEach(p, s, d, count, [](V pat, V src, V dst) { return ((dst ^ pat) & src) ^ pat; });
+      return;
+    case 0xE2:
+      ForEach(p, s, d, count, [](V pat, V src, V dst) { return ((pat ^ dst) & src) ^ dst; });
+      return;
+    default:
+      ForEach(p, s, d, count,
+              [index](V pat, V src, V dst) { return Evaluate(index, pat, src, dst); });
   }
 }
 

@@ -10,12 +10,18 @@
 
 namespace glyphon::win::soft {
 
-constexpr std::uint8_t Rop3Index(DWORD rop) { return static_cast<std::uint8_t>(rop >> 16); }
+constexpr std::uint8_t Rop3Index(DWORD rop) {
+  return static_cast<std::uint8_t>(rop >> 16);
+}
 
 // Whether the result depends on the source (or the pattern): the truth table differs somewhere
 // between the two values of that input.
-constexpr bool Rop3UsesSource(DWORD rop) { return ((rop >> 2) & 0x330000) != (rop & 0x330000); }
-constexpr bool Rop3UsesPattern(DWORD rop) { return ((rop >> 4) & 0x0F0000) != (rop & 0x0F0000); }
+constexpr bool Rop3UsesSource(DWORD rop) {
+  return ((rop >> 2) & 0x330000) != (rop & 0x330000);
+}
+constexpr bool Rop3UsesPattern(DWORD rop) {
+  return ((rop >> 4) & 0x0F0000) != (rop & 0x0F0000);
+}
 
 // For a code without source: the ROP2 mix with the pattern as pen.
 int Rop3PatternMix(DWORD rop);

@@ -36,10 +36,14 @@ enum Outcode : unsigned { kLeft = 1, kRight = 2, kTop = 4, kBottom = 8 };
 
 unsigned OutcodeOf(const POINT& p, const RECT& clip) {
   unsigned code = 0;
-  if (p.x < clip.left) code |= kLeft;
-  else if (p.x >= clip.right) code |= kRight;
-  if (p.y < clip.top) code |= kTop;
-  else if (p.y >= clip.bottom) code |= kBottom;
+  if (p.x < clip.left)
+    code |= kLeft;
+  else if (p.x >= clip.right)
+    code |= kRight;
+  if (p.y < clip.top)
+    code |= kTop;
+  else if (p.y >= clip.bottom)
+    code |= kBottom;
   return code;
 }
 
@@ -216,7 +220,9 @@ void ShrinkRow(const RowPair& row, int d, int s, const AxisWalk& h, int mode, bo
 }
 
 // HALFTONE: bilinear interpolation of the colours around each sample point, in float as GDI does.
-float ClampF(float v, float low, float high) { return std::max(low, std::min(v, high)); }
+float ClampF(float v, float low, float high) {
+  return std::max(low, std::min(v, high));
+}
 
 BYTE Lerp(BYTE from, BYTE to, float t) {
   return static_cast<BYTE>(static_cast<float>(from) + static_cast<float>(to - from) * t + 0.5f);
@@ -226,31 +232,38 @@ void Halftone(const PixelBlock& source, const BlitSide& src, const BlitSide& dst
               const Pixmap& format, PixelBlock& out) {
   RECT srcRect;
   const RECT srcBounds = BoundingRect(src.x, src.y, src.width, src.height);
-  srcRect = RECT{std::max(srcBounds.left, src.visible.left), std::max(srcBounds.top, src.visible.top),
-                 std::min(srcBounds.right, src.visible.right),
-                 std::min(srcBounds.bottom, src.visible.bottom)};
+  srcRect = RECT{
+      std::max(srcBounds.left, src.visible.left), std::max(srcBounds.top, src.visible.top),
+      std::min(srcBounds.right, src.visible.right), std::min(srcBounds.bottom, src.visible.bottom)};
   const int srcWidth = srcRect.right - srcRect.left;
   const int srcHeight = srcRect.bottom - srcRect.top;
   if (srcWidth <= 0 || srcHeight <= 0) return;
   const bool mirrorX = (dst.width < 0) != (src.width < 0);
   const bool mirrorY = (dst.height < 0) != (src.height < 0);
-  const float stepX = (mirrorX ? -1.0f : 1.0f) * static_cast<float>(srcWidth) / static_cast<float>(out.Width());
-  const float stepY = (mirrorY ? -1.0f : 1.0f) * static_cast<float>(srcHeight) / static_cast<float>(out.Height());
-  auto color = [&](int x, int y) { return format.PixelToColor(source.Row(y)[x - source.area.left]); };
+  const float stepX =
+      (mirrorX ? -1.0f : 1.0f) * static_cast<float>(srcWidth) / static_cast<float>(out.Width());
+  const float stepY =
+      (mirrorY ? -1.0f : 1.0f) * static_cast<float>(srcHeight) / static_cast<float>(out.Height());
+  auto color = [&](int x, int y) {
+    return format.PixelToColor(source.Row(y)[x - source.area.left]);
+  };
   float fy = static_cast<float>(mirrorY ? srcRect.bottom - 1 : srcRect.top);
   for (int y = out.area.top; y < out.area.bottom; ++y, fy += stepY) {
     fy = ClampF(fy, static_cast<float>(srcRect.top), static_cast<float>(srcRect.bottom - 1));
     const int y0 = static_cast<int>(fy);
-    const int y1 = std::clamp(y0 + 1, static_cast<int>(srcRect.top), static_cast<int>(srcRect.bottom) - 1);
+    const int y1 =
+        std::clamp(y0 + 1, static_cast<int>(srcRect.top), static_cast<int>(srcRect.bottom) - 1);
     const float ty = fy - static_cast<float>(y0);
     float fx = static_cast<float>(mirrorX ? srcRect.right - 1 : srcRect.left);
     PixelValue* row = out.Row(y);
     for (int x = 0; x < out.Width(); ++x, fx += stepX) {
       fx = ClampF(fx, static_cast<float>(srcRect.left), static_cast<float>(srcRect.right - 1));
       const int x0 = static_cast<int>(fx);
-      const int x1 = std::clamp(x0 + 1, static_cast<int>(srcRect.left), static_cast<int>(srcRect.right) - 1);
+      const int x1 =
+          std::clamp(x0 + 1, static_cast<int>(srcRect.left), static_cast<int>(srcRect.right) - 1);
       const float tx = fx - static_cast<float>(x0);
-      const COLORREF c00 = color(x0, y0), c01 = color(x1, y0), c10 = color(x0, y1), c11 = color(x1, y1);
+      const COLORREF c00 = color(x0, y0), c01 = color(x1, y0), c10 = color(x0, y1),
+                     c11 = color(x1, y1);
       auto channel = [&](BYTE (*get)(COLORREF)) {
         return Lerp(Lerp(get(c00), get(c01), tx), Lerp(get(c10), get(c11), tx), ty);
       };
@@ -275,10 +288,11 @@ bool StretchBlock(const PixelBlock& source, const BlitSide& src, BlitSide& dst, 
                 src.visible.left, src.visible.right, h)) {
     return false;
   }
-  const RECT reached = BoundingRect(h.dstStart, v.dstStart, h.dstEnd - h.dstStart, v.dstEnd - v.dstStart);
-  dst.visible = RECT{std::max(dst.visible.left, reached.left), std::max(dst.visible.top, reached.top),
-                     std::min(dst.visible.right, reached.right),
-                     std::min(dst.visible.bottom, reached.bottom)};
+  const RECT reached =
+      BoundingRect(h.dstStart, v.dstStart, h.dstEnd - h.dstStart, v.dstEnd - v.dstStart);
+  dst.visible = RECT{
+      std::max(dst.visible.left, reached.left), std::max(dst.visible.top, reached.top),
+      std::min(dst.visible.right, reached.right), std::min(dst.visible.bottom, reached.bottom)};
   if (dst.visible.left >= dst.visible.right || dst.visible.top >= dst.visible.bottom) {
     out = NewBlock(RECT{});
     return true;
@@ -308,7 +322,8 @@ bool StretchBlock(const PixelBlock& source, const BlitSide& src, BlitSide& dst, 
         const int previous = dy - v.dstStep;
         if (dy >= out.area.top && dy < out.area.bottom && previous >= out.area.top &&
             previous < out.area.bottom) {
-          std::memcpy(out.Row(dy), out.Row(previous), static_cast<std::size_t>(out.Width()) * sizeof(PixelValue));
+          std::memcpy(out.Row(dy), out.Row(previous),
+                      static_cast<std::size_t>(out.Width()) * sizeof(PixelValue));
         }
       }
       if (error > 0) {

@@ -18,7 +18,9 @@ struct PixelBlock {
 
   int Width() const { return area.right - area.left; }
   int Height() const { return area.bottom - area.top; }
-  PixelValue* Row(int y) { return values.data() + static_cast<std::size_t>(y - area.top) * Width(); }
+  PixelValue* Row(int y) {
+    return values.data() + static_cast<std::size_t>(y - area.top) * Width();
+  }
   const PixelValue* Row(int y) const {
     return values.data() + static_cast<std::size_t>(y - area.top) * Width();
   }
