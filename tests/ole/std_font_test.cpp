@@ -47,9 +47,9 @@ TEST(StdFont, SizeKeepsFourDecimals) {
 TEST(StdFont, LogicalFontAtNinetySixPixelsPerInch) {
   StdFont font;
   // Points to pixels is 4/3; the fraction rounds up only above one half.
-  for (const auto& [points, height] : {std::pair{8.25, -11}, std::pair{8.0, -11}, std::pair{9.0, -12},
-                                       std::pair{10.0, -13}, std::pair{12.0, -16},
-                                       std::pair{6.375, -8}, std::pair{6.3751, -9}}) {
+  for (const auto& [points, height] :
+       {std::pair{8.25, -11}, std::pair{8.0, -11}, std::pair{9.0, -12}, std::pair{10.0, -13},
+        std::pair{12.0, -16}, std::pair{6.375, -8}, std::pair{6.3751, -9}}) {
     font.Size(points);
     EXPECT_EQ(font.ToLogFont().lfHeight, height) << points;
   }

@@ -9,9 +9,15 @@ namespace glyphon::testing {
 
 class TextCanvas {
  public:
-  TextCanvas(int width, int height, int bitsPerPixel = 32, win::COLORREF fill = win::RGB(255, 255, 255))
+  enum class Kind { DeviceBitmap, DibSection };  // a DIB section here is bottom-up
+
+  TextCanvas(int width, int height, int bitsPerPixel = 32,
+             win::COLORREF fill = win::RGB(255, 255, 255), Kind kind = Kind::DeviceBitmap)
       : dc_(win::CreateCompatibleDC(nullptr)),
-        bitmap_(win::CreateBitmap(width, height, 1, static_cast<win::UINT>(bitsPerPixel), nullptr)),
+        bitmap_(kind == Kind::DibSection
+                    ? DibSection(width, height, bitsPerPixel)
+                    : win::CreateBitmap(width, height, 1, static_cast<win::UINT>(bitsPerPixel),
+                                        nullptr)),
         fill_(fill) {
     original_ = win::SelectObject(dc_, bitmap_);
     pixels_ = win::soft::ThreadSoftEngine().Bitmap(bitmap_)->pixmap.get();
@@ -31,7 +37,9 @@ class TextCanvas {
   int Width() const { return pixels_->Width(); }
   int Height() const { return pixels_->Height(); }
   win::COLORREF At(int x, int y) const { return pixels_->PixelToColor(pixels_->GetPixel(x, y)); }
-  void Set(int x, int y, win::COLORREF color) { pixels_->SetPixel(x, y, pixels_->ColorToPixel(color)); }
+  void Set(int x, int y, win::COLORREF color) {
+    pixels_->SetPixel(x, y, pixels_->ColorToPixel(color));
+  }
   bool Ink(int x, int y) const { return At(x, y) != fill_; }
 
   // Pixels in [left, right) x [top, bottom) that differ from the fill colour.
@@ -55,6 +63,17 @@ class TextCanvas {
   }
 
  private:
+  static win::HBITMAP DibSection(int width, int height, int bitsPerPixel) {
+    win::BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof(win::BITMAPINFOHEADER);
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = height;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = static_cast<win::WORD>(bitsPerPixel);
+    void* bits = nullptr;
+    return win::CreateDIBSection(nullptr, &info, win::DIB_RGB_COLORS, &bits, nullptr, 0);
+  }
+
   win::HDC dc_;
   win::HBITMAP bitmap_;
   win::HGDIOBJ original_ = nullptr;
@@ -65,8 +84,10 @@ class TextCanvas {
 // Selects a font into a DC for a scope and deletes it afterwards.
 class ScopedFont {
  public:
-  ScopedFont(win::HDC dc, win::HFONT font) : dc_(dc), font_(font), previous_(win::SelectObject(dc, font)) {}
-  ScopedFont(win::HDC dc, int height, int weight = 400, int quality = 0, const char* face = "MS Sans Serif")
+  ScopedFont(win::HDC dc, win::HFONT font)
+      : dc_(dc), font_(font), previous_(win::SelectObject(dc, font)) {}
+  ScopedFont(win::HDC dc, int height, int weight = 400, int quality = 0,
+             const char* face = "MS Sans Serif")
       : ScopedFont(dc, win::CreateFontA(height, 0, 0, 0, weight, 0, 0, 0, 0, 0, 0,
                                         static_cast<win::DWORD>(quality), 0, face)) {}
   ~ScopedFont() {

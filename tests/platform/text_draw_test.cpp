@@ -61,7 +61,8 @@ TEST_F(DrawTextLayout, WordBreakKeepsFittingSpacesOnLeftAlignedLinesOnly) {
   EXPECT_EQ(height, 26);
   // Centred lines drop the space at the break: "ab" is 14.
   EXPECT_EQ(Measure("ab cd", 20, DT_WORDBREAK | DT_CENTER), (Box{10, 20, 24, 46}));
-  EXPECT_TRUE(DrawsLines("ab cd", RECT{0, 0, 20, 40}, DT_WORDBREAK, {{{0, 0}, "ab"}, {{0, 13}, "cd"}}));
+  EXPECT_TRUE(
+      DrawsLines("ab cd", RECT{0, 0, 20, 40}, DT_WORDBREAK, {{{0, 0}, "ab"}, {{0, 13}, "cd"}}));
 }
 
 TEST_F(DrawTextLayout, EachLineIsCentredOnItsOwn) {
@@ -101,9 +102,9 @@ TEST_F(DrawTextLayout, EmptyCaptionMeasuresNothingYetReturnsALineHeight) {
 }
 
 TEST_F(DrawTextLayout, AmpersandsFollowTheAccessKeyRules) {
-  EXPECT_EQ(Measure("&", 50, 0)[2], 10 + 10);  // a final '&' is drawn
+  EXPECT_EQ(Measure("&", 50, 0)[2], 10 + 10);     // a final '&' is drawn
   EXPECT_EQ(Measure("A&&B", 50, 0)[2], 10 + 25);  // "A&B"
-  EXPECT_EQ(Measure("&ab", 50, 0)[2], 10 + 14);  // "ab"
+  EXPECT_EQ(Measure("&ab", 50, 0)[2], 10 + 14);   // "ab"
   EXPECT_EQ(Measure("&ab", 50, DT_NOPREFIX)[2], 10 + 24);
   EXPECT_TRUE(DrawsLines("A&&B", RECT{0, 0, 100, 40}, 0, {{{0, 0}, "A&B"}}));
   EXPECT_TRUE(DrawsLines("&", RECT{0, 0, 100, 40}, 0, {{{0, 0}, "&"}}));
@@ -138,8 +139,8 @@ TEST_F(DrawTextLayout, CrAndLfBreakLines) {
   EXPECT_EQ(height, 39);
   Measure("ab\ncd", 50, DT_SINGLELINE, &height);
   EXPECT_EQ(height, 13);
-  EXPECT_TRUE(DrawsLines("ab\ncd", RECT{0, 0, 100, 40}, DT_CENTER,
-                         {{{43, 0}, "ab"}, {{43, 13}, "cd"}}));
+  EXPECT_TRUE(
+      DrawsLines("ab\ncd", RECT{0, 0, 100, 40}, DT_CENTER, {{{43, 0}, "ab"}, {{43, 13}, "cd"}}));
 }
 
 TEST_F(DrawTextLayout, SingleLineCanBeCentredOrBottomAlignedVertically) {

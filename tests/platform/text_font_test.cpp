@@ -65,14 +65,14 @@ TEST_F(TextFont, FontRebuiltFromItsOwnMetricsIsTheSame) {
   for (const int weight : {400, 700}) {
     for (const DWORD italic : {0u, 1u}) {
       TextCanvas original(120, 30), copy(120, 30);
-      ScopedFont font(original.Dc(), CreateFontA(-11, 0, 0, 0, weight, italic, 1, 0, 0, 0, 0, 4,
-                                                 0, "MS Shell Dlg"));
+      ScopedFont font(original.Dc(), CreateFontA(-11, 0, 0, 0, weight, italic, 1, 0, 0, 0, 0, 4, 0,
+                                                 "MS Shell Dlg"));
       const TEXTMETRICA tm = MetricsOf(original.Dc());
       const std::string face = FaceOf(original.Dc());
       ScopedFont rebuilt(copy.Dc(),
-                         CreateFontA(tm.tmHeight, tm.tmAveCharWidth, 0, 0, tm.tmWeight,
-                                     tm.tmItalic, tm.tmUnderlined, tm.tmStruckOut, tm.tmCharSet,
-                                     0, 0, 4, tm.tmPitchAndFamily, face.c_str()));
+                         CreateFontA(tm.tmHeight, tm.tmAveCharWidth, 0, 0, tm.tmWeight, tm.tmItalic,
+                                     tm.tmUnderlined, tm.tmStruckOut, tm.tmCharSet, 0, 0, 4,
+                                     tm.tmPitchAndFamily, face.c_str()));
       const TEXTMETRICA again = MetricsOf(copy.Dc());
       EXPECT_EQ(std::memcmp(&tm, &again, sizeof tm), 0) << weight << " " << italic;
       TextOutA(original.Dc(), 2, 2, "Rebuilt Wg", 10);
@@ -162,8 +162,8 @@ TEST_F(TextFont, CharsetAndPitchAndFamilyAreStoredAndReported) {
     EXPECT_EQ(tm.tmCharSet, SYMBOL_CHARSET);
     EXPECT_EQ(tm.tmPitchAndFamily & 0xF0, FF_ROMAN);  // the family asked for
   }
-  ScopedFont plain(canvas_.Dc(), CreateFontA(-11, 0, 0, 0, 400, 0, 0, 0, DEFAULT_CHARSET, 0, 0,
-                                             0, 0, "MS Sans Serif"));
+  ScopedFont plain(canvas_.Dc(), CreateFontA(-11, 0, 0, 0, 400, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0,
+                                             0, "MS Sans Serif"));
   const TEXTMETRICA tm = MetricsOf(canvas_.Dc());
   EXPECT_EQ(tm.tmCharSet, ANSI_CHARSET);
   // The face's own family, variable pitch (GDI's inverted bit), an outline font.
@@ -215,7 +215,7 @@ TEST_F(TextFont, CharactersMissingFromTheFaceComeFromAnotherFont) {
   long withoutCjk = 0;
   {
     ScopedFont font(canvas_.Dc(), -11);
-    EXPECT_EQ(WidthOf(canvas_.Dc(), "\xCE\xA9"), 9);  // Greek capital omega is in the face
+    EXPECT_EQ(WidthOf(canvas_.Dc(), "\xCE\xA9"), 9);     // Greek capital omega is in the face
     withoutCjk = WidthOf(canvas_.Dc(), "\xE4\xB8\xAD");  // U+4E2D: the face's missing glyph
   }
   testing::PinnedFont withCjk({testing::kPinnedFontFile, kCjkFile});

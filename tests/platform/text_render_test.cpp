@@ -58,9 +58,10 @@ TEST_F(TextRender, AntialiasedCoverageIsBlendedInTheTextColourOntoWhatIsThere) {
             BlendChannel(GetGValue(kText), 255, alpha) != GetGValue(onWhite)) {
           continue;
         }
-        consistent = Near(GetRValue(result), BlendChannel(GetRValue(kText), GetRValue(under), alpha)) &&
-                     Near(GetGValue(result), BlendChannel(GetGValue(kText), GetGValue(under), alpha)) &&
-                     Near(GetBValue(result), BlendChannel(GetBValue(kText), GetBValue(under), alpha));
+        consistent =
+            Near(GetRValue(result), BlendChannel(GetRValue(kText), GetRValue(under), alpha)) &&
+            Near(GetGValue(result), BlendChannel(GetGValue(kText), GetGValue(under), alpha)) &&
+            Near(GetBValue(result), BlendChannel(GetBValue(kText), GetBValue(under), alpha));
       }
       EXPECT_TRUE(consistent) << x << "," << y;
       partial += onWhite != kText ? 1 : 0;
@@ -146,8 +147,10 @@ TEST_F(TextRender, UpdateCurrentPositionDrawsThereAndMovesIt) {
 }
 
 TEST_F(TextRender, EveryDepthGetsTheSameGlyphsClippedToTheSurface) {
+  constexpr COLORREF kWhite = RGB(255, 255, 255);
   TextCanvas deep(30, 20, 32), rgb(30, 20, 24), mono(30, 20, 1);
-  for (TextCanvas* canvas : {&deep, &rgb, &mono}) {
+  TextCanvas dib(30, 20, 24, kWhite, TextCanvas::Kind::DibSection);
+  for (TextCanvas* canvas : {&deep, &rgb, &mono, &dib}) {
     ScopedFont font(canvas->Dc(), -11);
     TextOutA(canvas->Dc(), -3, -4, "Wm", 2);
     TextOutA(canvas->Dc(), 24, 12, "Wm", 2);
@@ -159,6 +162,7 @@ TEST_F(TextRender, EveryDepthGetsTheSameGlyphsClippedToTheSurface) {
     for (int x = 0; x < 30; ++x) {
       EXPECT_EQ(rgb.At(x, y), deep.At(x, y));
       EXPECT_EQ(mono.At(x, y), deep.At(x, y));
+      EXPECT_EQ(dib.At(x, y), deep.At(x, y));
     }
   }
 }
@@ -170,8 +174,8 @@ TEST_F(TextRender, UnderlineAndStrikeOutAreLinesAcrossTheText) {
   // Rows below the cell top: the underline on the baseline row (10), the strike-out at 7.
   for (const auto& [underline, strikeOut, row] : {std::tuple{1u, 0u, 15}, std::tuple{0u, 1u, 12}}) {
     TextCanvas lined(30, 25);
-    ScopedFont font(lined.Dc(), CreateFontA(-11, 0, 0, 0, 400, 0, underline, strikeOut, 0, 0, 0,
-                                            0, 0, ""));
+    ScopedFont font(lined.Dc(),
+                    CreateFontA(-11, 0, 0, 0, 400, 0, underline, strikeOut, 0, 0, 0, 0, 0, ""));
     TextOutA(lined.Dc(), 5, 5, "ab", 2);
     for (int y = 0; y < 25; ++y) {
       for (int x = 0; x < 30; ++x) {

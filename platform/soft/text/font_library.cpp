@@ -38,15 +38,15 @@ struct ClassicName {
   GenericFamily family;
 };
 constexpr ClassicName kClassicNames[] = {
-    {"ms sans serif", GenericFamily::Sans},  {"microsoft sans serif", GenericFamily::Sans},
-    {"ms shell dlg", GenericFamily::Sans},   {"ms shell dlg 2", GenericFamily::Sans},
-    {"tahoma", GenericFamily::Sans},         {"arial", GenericFamily::Sans},
-    {"helvetica", GenericFamily::Sans},      {"chicago", GenericFamily::Sans},
-    {"charcoal", GenericFamily::Sans},       {"system", GenericFamily::Sans},
-    {"ms serif", GenericFamily::Serif},      {"times new roman", GenericFamily::Serif},
-    {"times", GenericFamily::Serif},         {"courier", GenericFamily::Mono},
-    {"courier new", GenericFamily::Mono},    {"fixedsys", GenericFamily::Mono},
-    {"terminal", GenericFamily::Mono},       {"lucida console", GenericFamily::Mono},
+    {"ms sans serif", GenericFamily::Sans}, {"microsoft sans serif", GenericFamily::Sans},
+    {"ms shell dlg", GenericFamily::Sans},  {"ms shell dlg 2", GenericFamily::Sans},
+    {"tahoma", GenericFamily::Sans},        {"arial", GenericFamily::Sans},
+    {"helvetica", GenericFamily::Sans},     {"chicago", GenericFamily::Sans},
+    {"charcoal", GenericFamily::Sans},      {"system", GenericFamily::Sans},
+    {"ms serif", GenericFamily::Serif},     {"times new roman", GenericFamily::Serif},
+    {"times", GenericFamily::Serif},        {"courier", GenericFamily::Mono},
+    {"courier new", GenericFamily::Mono},   {"fixedsys", GenericFamily::Mono},
+    {"terminal", GenericFamily::Mono},      {"lucida console", GenericFamily::Mono},
 };
 
 const std::string_view* FacesFor(GenericFamily family, std::size_t& count) {
@@ -143,8 +143,8 @@ FaceHandle FontLibrary::LoadFace(const std::string& file, int index) {
   return face;
 }
 
-const ResolvedFace& FontLibrary::Resolve(const std::string& name, GenericFamily generic,
-                                         bool bold, bool italic) {
+const ResolvedFace& FontLibrary::Resolve(const std::string& name, GenericFamily generic, bool bold,
+                                         bool italic) {
   std::string key = ToLower(name);
   key += static_cast<char>('0' + static_cast<int>(generic));
   key += bold ? 'b' : '-';

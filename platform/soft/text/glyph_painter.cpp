@@ -71,7 +71,8 @@ void GlyphPainter::Draw(const Glyph& glyph, int x, int baselineY) {
     return;
   }
   // Device pixel bytes at 24 bits are blue, green, red.
-  const int red = GetRValue(textColor_), green = GetGValue(textColor_), blue = GetBValue(textColor_);
+  const int red = GetRValue(textColor_), green = GetGValue(textColor_),
+            blue = GetBValue(textColor_);
   for (int y = top; y < bottom; ++y, coverage += stride) {
     std::uint8_t* p = target_.Row(y) + left * 3;
     for (int px = left; px < right; ++px, p += 3) {

@@ -65,8 +65,7 @@ DesignMetrics ReadDesignMetrics(FT_Face face) {
   m.unitsPerEm = face->units_per_EM > 0 ? face->units_per_EM : 2048;
   m.hheaAscender = hhea != nullptr ? hhea->Ascender : face->ascender;
   m.hheaDescender = hhea != nullptr ? hhea->Descender : face->descender;
-  m.lineGap = hhea != nullptr ? hhea->Line_Gap
-                              : face->height - (m.hheaAscender - m.hheaDescender);
+  m.lineGap = hhea != nullptr ? hhea->Line_Gap : face->height - (m.hheaAscender - m.hheaDescender);
   if (os2 != nullptr) {
     m.winAscent = os2->usWinAscent;
     // Some fonts store a signed descent in this unsigned field.
@@ -80,8 +79,7 @@ DesignMetrics ReadDesignMetrics(FT_Face face) {
     m.winAscent = m.unitsPerEm * 4 / 5;
     m.winDescent = m.unitsPerEm / 5;
   }
-  m.averageWidth =
-      os2 != nullptr && os2->xAvgCharWidth > 0 ? os2->xAvgCharWidth : m.unitsPerEm / 2;
+  m.averageWidth = os2 != nullptr && os2->xAvgCharWidth > 0 ? os2->xAvgCharWidth : m.unitsPerEm / 2;
   m.boundingWidth = face->bbox.xMax - face->bbox.xMin;
   m.underlinePosition = post != nullptr ? post->underlinePosition : face->underline_position;
   m.underlineThickness = post != nullptr ? post->underlineThickness : face->underline_thickness;
@@ -168,9 +166,7 @@ void CopyCoverage(const FT_Bitmap& bitmap, std::uint8_t* out) {
     std::uint8_t* dst = out + static_cast<long>(y) * width;
     for (int x = 0; x < width; ++x) {
       switch (bitmap.pixel_mode) {
-        case FT_PIXEL_MODE_MONO:
-          dst[x] = (row[x / 8] & (0x80 >> (x % 8))) != 0 ? 255 : 0;
-          break;
+        case FT_PIXEL_MODE_MONO: dst[x] = (row[x / 8] & (0x80 >> (x % 8))) != 0 ? 255 : 0; break;
         case FT_PIXEL_MODE_BGRA: dst[x] = row[x * 4 + 3]; break;
         case FT_PIXEL_MODE_GRAY:
           dst[x] = grays == 255 ? row[x] : static_cast<std::uint8_t>(row[x] * 255 / grays);
@@ -188,8 +184,8 @@ RealizedFont::RealizedFont(std::shared_ptr<FontLibrary> library, const LOGFONTA&
   const bool bold = logFont.lfWeight > kBoldThreshold;
   const bool italic = logFont.lfItalic != 0;
   // Quality 4 and the two ClearType qualities smooth; every other quality draws one-bit glyphs.
-  antialiased_ = logFont.lfQuality == ANTIALIASED_QUALITY || logFont.lfQuality == 5 ||
-                 logFont.lfQuality == 6;
+  antialiased_ =
+      logFont.lfQuality == ANTIALIASED_QUALITY || logFont.lfQuality == 5 || logFont.lfQuality == 6;
   const std::string name(logFont.lfFaceName, strnlen(logFont.lfFaceName, LF_FACESIZE));
   const ResolvedFace& resolved = library_->Resolve(name, GenericFor(logFont), bold, italic);
   face_ = resolved.face != nullptr && FT_IS_SCALABLE(resolved.face) ? resolved.face : nullptr;
@@ -222,13 +218,12 @@ void RealizedFont::ComputeMetrics(const LOGFONTA& logFont, bool italicFace) {
   tm.tmHeight = ascent + descent;
   tm.tmInternalLeading = std::max(0, tm.tmHeight - ppem_);
   const long long cellUnits = m.winAscent + m.winDescent;
-  tm.tmExternalLeading = std::max(
-      0, ToInt(MulDivRound(m.lineGap - (cellUnits - (m.hheaAscender - m.hheaDescender)), ppem_,
-                           m.unitsPerEm)));
+  tm.tmExternalLeading =
+      std::max(0, ToInt(MulDivRound(m.lineGap - (cellUnits - (m.hheaAscender - m.hheaDescender)),
+                                    ppem_, m.unitsPerEm)));
   tm.tmAveCharWidth = widthApplies ? ToInt(requestedWidth) : naturalWidth;
-  tm.tmMaxCharWidth = std::max(
-      1, ToInt(std::llround(static_cast<double>(m.boundingWidth) * ppem_ * xScale_ /
-                            static_cast<double>(m.unitsPerEm))));
+  tm.tmMaxCharWidth = std::max(1, ToInt(std::llround(static_cast<double>(m.boundingWidth) * ppem_ *
+                                                     xScale_ / static_cast<double>(m.unitsPerEm))));
   tm.tmWeight = syntheticBold_ ? FW_BOLD : m.weight;
   tm.tmOverhang = 0;
   tm.tmDigitizedAspectX = 96;
@@ -241,9 +236,9 @@ void RealizedFont::ComputeMetrics(const LOGFONTA& logFont, bool italicFace) {
   tm.tmUnderlined = logFont.lfUnderline != 0 ? 255 : 0;
   tm.tmStruckOut = logFont.lfStrikeOut != 0 ? 255 : 0;
   // TMPF_FIXED_PITCH set means variable pitch, as GDI has it.
-  tm.tmPitchAndFamily = static_cast<BYTE>(FamilyBits(logFont, m) |
-                                          (m.fixedPitch ? 0 : TMPF_FIXED_PITCH) | TMPF_VECTOR |
-                                          (m.trueType ? TMPF_TRUETYPE : 0));
+  tm.tmPitchAndFamily =
+      static_cast<BYTE>(FamilyBits(logFont, m) | (m.fixedPitch ? 0 : TMPF_FIXED_PITCH) |
+                        TMPF_VECTOR | (m.trueType ? TMPF_TRUETYPE : 0));
   tm.tmCharSet = logFont.lfCharSet == DEFAULT_CHARSET ? ANSI_CHARSET : logFont.lfCharSet;
 
   underline_ = Stroke(m.underlinePosition, m.underlineThickness, m, ppem_, descent);

@@ -18,8 +18,8 @@ namespace glyphon::win::soft {
 
 struct Glyph {
   int advance = 0;
-  int left = 0;    // from the pen position to the first column
-  int top = 0;     // from the baseline up to the first row
+  int left = 0;  // from the pen position to the first column
+  int top = 0;   // from the baseline up to the first row
   int width = 0;
   int height = 0;
   const std::uint8_t* coverage = nullptr;  // width * height values, 255 = fully covered

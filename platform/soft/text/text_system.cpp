@@ -29,7 +29,9 @@ int MaxLines(const RECT& rect, UINT format, int lineHeight) {
   return static_cast<int>(std::min<long long>(room / lineHeight + 2, INT_MAX));
 }
 
-int ToInt(long long value) { return static_cast<int>(std::clamp<long long>(value, INT_MIN, INT_MAX)); }
+int ToInt(long long value) {
+  return static_cast<int>(std::clamp<long long>(value, INT_MIN, INT_MAX));
+}
 
 // Positions far off any surface are pulled in to where adding a line's width cannot overflow.
 int ToPosition(long long value) {
