@@ -18,8 +18,6 @@ namespace {
 constexpr long long kMaxPixelsPerEm = 1024;
 // Synthesised slant, the one FreeType's oblique style uses (about 12 degrees).
 constexpr FT_Fixed kObliqueShear = 0x0366A;
-// Weights above this pick (or synthesise) a bold face, as GDI's font mapper does.
-constexpr LONG kBoldThreshold = 550;
 
 // a * b / c rounded to nearest with halves away from zero, as GDI's MulDiv.
 long long MulDivRound(long long a, long long b, long long c) {
@@ -181,11 +179,9 @@ void CopyCoverage(const FT_Bitmap& bitmap, std::uint8_t* out) {
 
 RealizedFont::RealizedFont(std::shared_ptr<FontLibrary> library, const LOGFONTA& logFont)
     : library_(std::move(library)), generation_(library_->Generation()) {
-  const bool bold = logFont.lfWeight > kBoldThreshold;
+  const bool bold = PicksBoldFace(logFont.lfWeight);
   const bool italic = logFont.lfItalic != 0;
-  // Quality 4 and the two ClearType qualities smooth; every other quality draws one-bit glyphs.
-  antialiased_ =
-      logFont.lfQuality == ANTIALIASED_QUALITY || logFont.lfQuality == 5 || logFont.lfQuality == 6;
+  antialiased_ = SmoothsGlyphs(logFont.lfQuality);
   const std::string name(logFont.lfFaceName, strnlen(logFont.lfFaceName, LF_FACESIZE));
   const ResolvedFace& resolved = library_->Resolve(name, GenericFor(logFont), bold, italic);
   face_ = resolved.face != nullptr && FT_IS_SCALABLE(resolved.face) ? resolved.face : nullptr;
@@ -255,7 +251,7 @@ void RealizedFont::ComputeMetricsWithoutFace(const LOGFONTA& logFont) {
   tm.tmHeight = ppem_;
   tm.tmAveCharWidth = std::max(1, ppem_ / 2);
   tm.tmMaxCharWidth = ppem_;
-  tm.tmWeight = logFont.lfWeight > kBoldThreshold ? FW_BOLD : FW_NORMAL;
+  tm.tmWeight = PicksBoldFace(logFont.lfWeight) ? FW_BOLD : FW_NORMAL;
   tm.tmDigitizedAspectX = 96;
   tm.tmDigitizedAspectY = 96;
   tm.tmItalic = logFont.lfItalic != 0 ? 255 : 0;

@@ -16,6 +16,14 @@
 
 namespace glyphon::win::soft {
 
+// Weights above 550 pick (or synthesise) a bold face, as GDI's font mapper does.
+constexpr bool PicksBoldFace(LONG weight) { return weight > 550; }
+
+// Quality 4 and the two ClearType qualities smooth glyphs; every other quality draws them one-bit.
+constexpr bool SmoothsGlyphs(BYTE quality) {
+  return quality == ANTIALIASED_QUALITY || quality == 5 || quality == 6;
+}
+
 struct Glyph {
   int advance = 0;
   int left = 0;  // from the pen position to the first column

@@ -55,11 +55,11 @@ TextSystem::FontKey TextSystem::KeyFor(const LOGFONTA& logFont) {
   FontKey key{};
   key.height = logFont.lfHeight;
   key.width = logFont.lfWidth;
-  key.bold = logFont.lfWeight > 550;
+  key.bold = PicksBoldFace(logFont.lfWeight);
   key.italic = logFont.lfItalic != 0;
   key.underline = logFont.lfUnderline != 0;
   key.strikeOut = logFont.lfStrikeOut != 0;
-  key.antialiased = logFont.lfQuality >= ANTIALIASED_QUALITY && logFont.lfQuality <= 6;
+  key.antialiased = SmoothsGlyphs(logFont.lfQuality);
   key.charSet = logFont.lfCharSet;
   key.pitchAndFamily = logFont.lfPitchAndFamily;
   for (int i = 0; i < LF_FACESIZE - 1 && logFont.lfFaceName[i] != '\0'; ++i) {
