@@ -1,7 +1,9 @@
 #include "platform/soft/soft_engine.h"
 
 #include <cstring>
+#include <span>
 
+#include "platform/soft/gdi/default_color_tables.h"
 #include "platform/soft/text/text_system.h"
 #include "platform/soft/user/user_system.h"
 
@@ -91,17 +93,17 @@ std::unique_ptr<Object> StockFont(LONG height, LONG weight, BYTE pitchAndFamily,
   return font;
 }
 
-// The twenty static colours of the default palette.
+// The default palette holds the twenty static colours: the ends of the halftone table.
 std::unique_ptr<Object> StockPalette() {
-  static const PALETTEENTRY entries[20] = {
-      {0, 0, 0, 0},       {128, 0, 0, 0},     {0, 128, 0, 0},     {128, 128, 0, 0},
-      {0, 0, 128, 0},     {128, 0, 128, 0},   {0, 128, 128, 0},   {192, 192, 192, 0},
-      {192, 220, 192, 0}, {166, 202, 240, 0}, {255, 251, 240, 0}, {160, 160, 164, 0},
-      {128, 128, 128, 0}, {255, 0, 0, 0},     {0, 255, 0, 0},     {255, 255, 0, 0},
-      {0, 0, 255, 0},     {255, 0, 255, 0},   {0, 255, 255, 0},   {255, 255, 255, 0}};
+  const std::span<const RGBQUAD> halftone = DefaultColorTable(8);
+  auto entries = std::make_shared<std::vector<PALETTEENTRY>>();
+  auto append = [&entries](std::span<const RGBQUAD> colors) {
+    for (const RGBQUAD& c : colors) entries->push_back({c.rgbRed, c.rgbGreen, c.rgbBlue, 0});
+  };
+  append(halftone.first(10));
+  append(halftone.last(10));
   auto palette = Stock<PaletteObject>();
-  palette->entries =
-      std::make_shared<const std::vector<PALETTEENTRY>>(std::begin(entries), std::end(entries));
+  palette->entries = std::move(entries);
   return palette;
 }
 

@@ -60,6 +60,8 @@ class SoftEngine final : public Engine {
   // A new DC of the given kind with the stock objects selected and drawing onto surface.
   HDC NewDc(DcKind kind, std::shared_ptr<Pixmap> surface, HWND window);
   HBITMAP DefaultBitmap() const { return defaultBitmap_; }
+  // A DIB section of the given size in the format (depth, row order, colours) of another.
+  HBITMAP CreateMatchingDibSection(HDC hdc, const Pixmap& format, int cx, int cy);
 
   TextSystem& Text() { return *text_; }
   UserSystem& User() { return *user_; }

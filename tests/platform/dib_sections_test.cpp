@@ -120,6 +120,32 @@ TEST(DibSections, PaletteIndexTableComesFromTheDcPalette) {
   DeleteDC(dc);
 }
 
+TEST(DibSections, CompatibleBitmapOfADibDcIsADibOfTheSameFormat) {
+  testing::LeakCheck leaks;
+  Info info = Header(4, 3, 1);
+  info.colors[0] = Quad(10, 20, 30);
+  info.colors[1] = Quad(200, 100, 50);
+  HBITMAP section = CreateDIBSection(nullptr, info.get(), DIB_RGB_COLORS, nullptr, nullptr, 0);
+  HDC dc = CreateCompatibleDC(nullptr);
+  HGDIOBJ original = SelectObject(dc, section);
+  HBITMAP made = CreateCompatibleBitmap(dc, 7, 5);
+  DIBSECTION description{};
+  ASSERT_EQ(GetObjectA(made, sizeof description, &description),
+            static_cast<int>(sizeof description));
+  EXPECT_EQ(description.dsBmih.biBitCount, 1);
+  EXPECT_EQ(description.dsBm.bmWidth, 7);
+  EXPECT_EQ(description.dsBm.bmHeight, 5);
+  RGBQUAD colors[2]{};
+  HGDIOBJ previous = SelectObject(dc, made);
+  ASSERT_EQ(GetDIBColorTable(dc, 0, 2, colors), 2u);
+  EXPECT_EQ(colors[1].rgbRed, 200);
+  SelectObject(dc, previous);
+  SelectObject(dc, original);
+  DeleteObject(made);
+  DeleteObject(section);
+  DeleteDC(dc);
+}
+
 TEST(DibSections, RefusedFormatsAndSizesGiveNoHandle) {
   testing::LeakCheck leaks;
   auto create = [](Info info) {

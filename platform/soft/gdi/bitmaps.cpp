@@ -1,6 +1,7 @@
 // Device-dependent bitmaps: compatible (screen format, 32 bits) and monochrome ones.
 #include <algorithm>
 #include <cstring>
+#include <vector>
 
 #include "platform/soft/soft_engine.h"
 
@@ -13,11 +14,34 @@ std::shared_ptr<Pixmap> NewDeviceBitmap(int width, int height, int bitsPerPixel)
 }
 }  // namespace
 
+HBITMAP SoftEngine::CreateMatchingDibSection(HDC hdc, const Pixmap& format, int cx, int cy) {
+  const std::vector<RGBQUAD>& colors = format.ColorTable();
+  std::vector<std::uint8_t> buffer(sizeof(BITMAPINFOHEADER) + colors.size() * sizeof(RGBQUAD));
+  BITMAPINFOHEADER header{};
+  header.biSize = sizeof header;
+  header.biWidth = cx;
+  header.biHeight = format.TopDown() ? -cy : cy;
+  header.biPlanes = 1;
+  header.biBitCount = static_cast<WORD>(format.BitsPerPixel());
+  header.biCompression = BI_RGB;
+  header.biClrUsed = static_cast<DWORD>(colors.size());
+  std::memcpy(buffer.data(), &header, sizeof header);
+  if (!colors.empty()) {
+    std::memcpy(buffer.data() + sizeof header, colors.data(), colors.size() * sizeof(RGBQUAD));
+  }
+  return CreateDIBSection(hdc, reinterpret_cast<const BITMAPINFO*>(buffer.data()), DIB_RGB_COLORS,
+                          nullptr, nullptr, 0);
+}
+
 HBITMAP SoftEngine::CreateCompatibleBitmap(HDC hdc, int cx, int cy) {
   DcObject* dc = Dc(hdc);
   if (dc == nullptr || cx < 0 || cy < 0) return nullptr;
   // GDI answers a zero size with its 1x1 monochrome stock bitmap.
   if (cx == 0 || cy == 0) return defaultBitmap_;
+  // A DC holding a DIB section makes DIB sections of the same format, as GDI does.
+  if (BitmapObject* selected = Bitmap(dc->attributes.bitmap); selected && selected->dibSection) {
+    return CreateMatchingDibSection(hdc, *selected->pixmap, cx, cy);
+  }
   const bool monochrome = dc->dcKind == DcKind::Memory && dc->surface->BitsPerPixel() == 1;
   auto bitmap = std::make_unique<BitmapObject>();
   bitmap->pixmap = NewDeviceBitmap(cx, cy, monochrome ? 1 : 32);
