@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the picture-reader fuzzers with clang (libFuzzer, ASan, UBSan) and runs each one for a
-# while, starting from its committed seeds.
+# Builds the fuzzers of the picture readers and the saved-form reader with clang (libFuzzer, ASan,
+# UBSan) and runs each one for a while, starting from its committed seeds.
 #   scripts/fuzz.sh [seconds per fuzzer]    (default 20)
 # New inputs go to build/fuzz/corpus/, crashes to build/fuzz/crashes/; a crash fails the script.
 set -euo pipefail
@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 scripts/install-deps.sh
 
 seconds="${1:-20}"
-targets=(bmp ico png)
+targets=(bmp ico png form_file)
 
 cmake --preset fuzz >/dev/null
 cmake --build --preset fuzz --target "${targets[@]/#/fuzz_}"

@@ -6,6 +6,7 @@ packages=(
   build-essential cmake ninja-build pkg-config
   libgtest-dev libgmock-dev libbenchmark-dev
   libpng-dev libfreetype-dev libfontconfig-dev fonts-dejavu-core
+  nlohmann-json3-dev
   fonts-liberation2 fonts-wqy-microhei
   clang libclang-rt-14-dev
 )
