@@ -5,17 +5,18 @@
 namespace glyphon::win {
 
 namespace {
-thread_local Engine* installedEngine = nullptr;
+// The engine serving this thread, resolved once: every platform call reads it.
+thread_local Engine* currentEngine = nullptr;
 }  // namespace
 
 Engine& CurrentEngine() {
-  if (installedEngine != nullptr) return *installedEngine;
-  return soft::ThreadSoftEngine();
+  if (currentEngine == nullptr) currentEngine = &soft::ThreadSoftEngine();
+  return *currentEngine;
 }
 
-EngineScope::EngineScope(Engine& engine) : previous_(installedEngine) { installedEngine = &engine; }
+EngineScope::EngineScope(Engine& engine) : previous_(&CurrentEngine()) { currentEngine = &engine; }
 
-EngineScope::~EngineScope() { installedEngine = previous_; }
+EngineScope::~EngineScope() { currentEngine = previous_; }
 
 #define GLYPHON_FORWARD(ret, name, params, args) \
   ret name params { return CurrentEngine().name args; }

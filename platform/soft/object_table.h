@@ -46,8 +46,15 @@ class ObjectTable {
   // Takes ownership and returns the handle value, or 0 when the table is full.
   std::uintptr_t Add(std::unique_ptr<Object> object);
 
-  // The live object behind a handle value, or null when it is not one of ours.
-  Object* Find(std::uintptr_t handle) const;
+  // The live object behind a handle value, or null when it is not one of ours. Inline: every
+  // platform call makes one or more lookups.
+  Object* Find(std::uintptr_t handle) const {
+    const std::size_t index = handle & kIndexMask;
+    if (index == 0 || index > slots_.size()) return nullptr;
+    const Slot& slot = slots_[index - 1];
+    if (!slot.object || Encode(index - 1, slot) != handle) return nullptr;
+    return slot.object.get();
+  }
 
   template <class T>
   T* Find(std::uintptr_t handle, ObjectKind kind) const {
@@ -72,13 +79,23 @@ class ObjectTable {
  private:
   struct Slot {
     std::unique_ptr<Object> object;
-    std::uint8_t generation = 0;
+    std::uint32_t generation = 0;
   };
   static constexpr unsigned kIndexBits = 20;
-  static constexpr unsigned kGenerationBits = 8;
+  // Wide generations where handles have room for them, so a stale handle that is deleted again
+  // (some callers do) cannot come to name a newer object in its slot.
+  static constexpr unsigned kGenerationBits = sizeof(std::uintptr_t) >= 8 ? 32 : 8;
+  static constexpr std::uint32_t kGenerationMask =
+      kGenerationBits >= 32 ? 0xFFFFFFFFu : (1u << kGenerationBits) - 1;
   static constexpr std::size_t kMaxSlots = (std::size_t{1} << kIndexBits) - 1;
 
-  static std::uintptr_t Encode(std::size_t index, const Slot& slot);
+  static constexpr std::uintptr_t kIndexMask = (std::uintptr_t{1} << kIndexBits) - 1;
+
+  static std::uintptr_t Encode(std::size_t index, const Slot& slot) {
+    const auto kind = static_cast<std::uintptr_t>(slot.object->kind);
+    return (kind << (kIndexBits + kGenerationBits)) |
+           (std::uintptr_t{slot.generation} << kIndexBits) | (index + 1);
+  }
 
   std::vector<Slot> slots_;
   std::vector<std::uint32_t> freeSlots_;

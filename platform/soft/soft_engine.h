@@ -68,7 +68,8 @@ class SoftEngine final : public Engine {
 
  private:
   void CreateStockObjects();
-  HGDIOBJ SelectInto(DcObject& dc, HGDIOBJ& slot, HGDIOBJ object);
+  HGDIOBJ SelectInto(Object& record, HGDIOBJ& slot, HGDIOBJ object);
+  void SelectStock(HGDIOBJ& slot, HGDIOBJ object);
   void Release(HGDIOBJ object);
   void ReleaseSelections(DcObject& dc);
 

@@ -3,6 +3,11 @@
 
 namespace glyphon::win::soft {
 
+// Selects a stock object into a DC that is being set up.
+void SoftEngine::SelectStock(HGDIOBJ& slot, HGDIOBJ object) {
+  SelectInto(*objects_.Find(reinterpret_cast<std::uintptr_t>(object)), slot, object);
+}
+
 HDC SoftEngine::NewDc(DcKind kind, std::shared_ptr<Pixmap> surface, HWND window) {
   auto dc = std::make_unique<DcObject>();
   dc->dcKind = kind;
@@ -12,13 +17,13 @@ HDC SoftEngine::NewDc(DcKind kind, std::shared_ptr<Pixmap> surface, HWND window)
   HDC hdc = AddObject<HDC>(std::move(dc));
   if (hdc == nullptr) return nullptr;
   DcAttributes& a = record->attributes;
-  SelectInto(*record, reinterpret_cast<HGDIOBJ&>(a.pen), stockObjects_[BLACK_PEN]);
-  SelectInto(*record, reinterpret_cast<HGDIOBJ&>(a.brush), stockObjects_[WHITE_BRUSH]);
-  SelectInto(*record, reinterpret_cast<HGDIOBJ&>(a.font), stockObjects_[SYSTEM_FONT]);
-  SelectInto(*record, reinterpret_cast<HGDIOBJ&>(a.palette), stockObjects_[DEFAULT_PALETTE]);
+  SelectStock(reinterpret_cast<HGDIOBJ&>(a.pen), stockObjects_[BLACK_PEN]);
+  SelectStock(reinterpret_cast<HGDIOBJ&>(a.brush), stockObjects_[WHITE_BRUSH]);
+  SelectStock(reinterpret_cast<HGDIOBJ&>(a.font), stockObjects_[SYSTEM_FONT]);
+  SelectStock(reinterpret_cast<HGDIOBJ&>(a.palette), stockObjects_[DEFAULT_PALETTE]);
   if (kind == DcKind::Memory) {
     // A new memory DC holds the 1x1 monochrome default bitmap, as in GDI.
-    SelectInto(*record, reinterpret_cast<HGDIOBJ&>(a.bitmap), defaultBitmap_);
+    SelectStock(reinterpret_cast<HGDIOBJ&>(a.bitmap), defaultBitmap_);
     record->surface = Bitmap(defaultBitmap_)->pixmap;
   }
   return hdc;

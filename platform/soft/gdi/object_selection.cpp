@@ -19,9 +19,8 @@ int CopyOut(const Record& record, int size, void* buffer) {
 }
 }  // namespace
 
-HGDIOBJ SoftEngine::SelectInto(DcObject&, HGDIOBJ& slot, HGDIOBJ object) {
-  Object* record = objects_.Find(Key(object));
-  ++record->selectionCount;
+HGDIOBJ SoftEngine::SelectInto(Object& record, HGDIOBJ& slot, HGDIOBJ object) {
+  ++record.selectionCount;
   HGDIOBJ previous = slot;
   slot = object;
   Release(previous);
@@ -42,9 +41,9 @@ HGDIOBJ SoftEngine::SelectObject(HDC hdc, HGDIOBJ object) {
   if (dc == nullptr || record == nullptr || record->deletePending) return nullptr;
   DcAttributes& a = dc->attributes;
   switch (record->kind) {
-    case ObjectKind::Pen: return SelectInto(*dc, reinterpret_cast<HGDIOBJ&>(a.pen), object);
-    case ObjectKind::Brush: return SelectInto(*dc, reinterpret_cast<HGDIOBJ&>(a.brush), object);
-    case ObjectKind::Font: return SelectInto(*dc, reinterpret_cast<HGDIOBJ&>(a.font), object);
+    case ObjectKind::Pen: return SelectInto(*record, reinterpret_cast<HGDIOBJ&>(a.pen), object);
+    case ObjectKind::Brush: return SelectInto(*record, reinterpret_cast<HGDIOBJ&>(a.brush), object);
+    case ObjectKind::Font: return SelectInto(*record, reinterpret_cast<HGDIOBJ&>(a.font), object);
     case ObjectKind::Bitmap: {
       auto* bitmap = static_cast<BitmapObject*>(record);
       if (dc->dcKind != DcKind::Memory) return nullptr;
@@ -54,7 +53,7 @@ HGDIOBJ SoftEngine::SelectObject(HDC hdc, HGDIOBJ object) {
       if (BitmapObject* old = Bitmap(a.bitmap)) old->selectedInto = nullptr;
       if (!bitmap->stock) bitmap->selectedInto = hdc;
       dc->surface = bitmap->pixmap;
-      return SelectInto(*dc, reinterpret_cast<HGDIOBJ&>(a.bitmap), object);
+      return SelectInto(*record, reinterpret_cast<HGDIOBJ&>(a.bitmap), object);
     }
     default: return nullptr;  // palettes go through SelectPalette; DCs cannot be selected
   }
@@ -65,7 +64,7 @@ HPALETTE SoftEngine::SelectPalette(HDC hdc, HPALETTE palette, BOOL) {
   PaletteObject* record = Palette(palette);
   if (dc == nullptr || record == nullptr || record->deletePending) return nullptr;
   return static_cast<HPALETTE>(
-      SelectInto(*dc, reinterpret_cast<HGDIOBJ&>(dc->attributes.palette), palette));
+      SelectInto(*record, reinterpret_cast<HGDIOBJ&>(dc->attributes.palette), palette));
 }
 
 BOOL SoftEngine::DeleteObject(HGDIOBJ object) {
