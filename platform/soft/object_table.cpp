@@ -23,7 +23,12 @@ bool ObjectTable::Remove(std::uintptr_t handle) {
   if (object == nullptr || object->stock) return false;
   const std::size_t index = (handle & kIndexMask) - 1;
   Slot& slot = slots_[index];
-  --counts_[static_cast<std::size_t>(object->kind)];
+  const auto kind = static_cast<std::size_t>(object->kind);
+  --counts_[kind];
+  if ((object->kind == ObjectKind::Pen || object->kind == ObjectKind::Brush) &&
+      spares_[kind].size() < kMaxSpares) {
+    spares_[kind].push_back(std::move(slot.object));
+  }
   slot.object.reset();
   slot.generation = (slot.generation + 1) & kGenerationMask;
   freeSlots_.push_back(static_cast<std::uint32_t>(index));

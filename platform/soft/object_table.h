@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <new>
 #include <vector>
 
 namespace glyphon::win::soft {
@@ -65,6 +66,18 @@ class ObjectTable {
   // Frees the object; false for unknown handles and stock objects.
   bool Remove(std::uintptr_t handle);
 
+  // A fresh record of type T, reusing the storage of one removed earlier when there is one:
+  // a repaint creates and deletes dozens of pens and brushes, and the heap need not see them.
+  template <class T>
+  std::unique_ptr<T> New(ObjectKind kind) {
+    auto& spares = spares_[static_cast<std::size_t>(kind)];
+    if (spares.empty()) return std::make_unique<T>();
+    Object* storage = spares.back().release();
+    spares.pop_back();
+    storage->~Object();
+    return std::unique_ptr<T>(new (storage) T());
+  }
+
   const LiveCounts& Counts() const { return counts_; }
 
   // Calls f(handle, object) for each live object (used to broadcast to windows).
@@ -89,6 +102,7 @@ class ObjectTable {
       kGenerationBits >= 32 ? 0xFFFFFFFFu : (1u << kGenerationBits) - 1;
   static constexpr std::size_t kMaxSlots = (std::size_t{1} << kIndexBits) - 1;
 
+  static constexpr std::size_t kMaxSpares = 32;
   static constexpr std::uintptr_t kIndexMask = (std::uintptr_t{1} << kIndexBits) - 1;
 
   static std::uintptr_t Encode(std::size_t index, const Slot& slot) {
@@ -100,6 +114,8 @@ class ObjectTable {
   std::vector<Slot> slots_;
   std::vector<std::uint32_t> freeSlots_;
   LiveCounts counts_{};
+  std::array<std::vector<std::unique_ptr<Object>>, static_cast<std::size_t>(ObjectKind::Count)>
+      spares_;
 };
 
 }  // namespace glyphon::win::soft

@@ -8,7 +8,7 @@ constexpr int kHatchApiMax = 12;
 
 HPEN SoftEngine::CreatePen(int style, int width, COLORREF color) {
   if (style < PS_SOLID || style > PS_INSIDEFRAME) return nullptr;
-  auto pen = std::make_unique<PenObject>();
+  auto pen = objects_.New<PenObject>(ObjectKind::Pen);
   pen->style = style;
   pen->width = width < 0 ? -width : width;
   pen->color = color;
@@ -27,7 +27,7 @@ HBRUSH SoftEngine::CreateHatchBrush(int hatch, COLORREF color) {
 
 HBRUSH SoftEngine::CreateBrushIndirect(const LOGBRUSH* logBrush) {
   if (logBrush == nullptr) return nullptr;
-  auto brush = std::make_unique<BrushObject>();
+  auto brush = objects_.New<BrushObject>(ObjectKind::Brush);
   brush->style = logBrush->lbStyle;
   brush->color = logBrush->lbColor;
   switch (logBrush->lbStyle) {
