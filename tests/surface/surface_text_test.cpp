@@ -39,8 +39,8 @@ int LiveFonts() {
     for (int x = 0; x < width; ++x) {
       const win::COLORREF first = win::GetPixel(a, x, y), second = win::GetPixel(b, x, y);
       if (first == win::CLR_INVALID || first != second) {
-        return ::testing::AssertionFailure() << "at " << x << "," << y << ": " << std::hex
-                                             << first << " against " << second;
+        return ::testing::AssertionFailure()
+               << "at " << x << "," << y << ": " << std::hex << first << " against " << second;
       }
     }
   }
@@ -64,8 +64,8 @@ class SurfaceText : public ::testing::Test {
  protected:
   SurfaceText()
       : host_(win::CreateCompatibleDC(nullptr)),
-        font_(win::CreateFontA(-11, 0, 0, 0, win::FW_NORMAL, 1, 0, 1, 0, 0, 0, 0, 0,
-                               "MS Shell Dlg")),
+        font_(
+            win::CreateFontA(-11, 0, 0, 0, win::FW_NORMAL, 1, 0, 1, 0, 0, 0, 0, 0, "MS Shell Dlg")),
         previous_(win::SelectObject(host_, font_)) {}
   ~SurfaceText() override {
     win::SelectObject(host_, previous_);
