@@ -292,8 +292,8 @@ TEST(PropertyBagFile, FilesOnDisk) {
 
 TEST(Base64, RoundTripsAndRefusesNonCanonicalText) {
   for (std::size_t size = 0; size < 7; ++size) {
-    std::vector<std::uint8_t> bytes(size);
-    for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<std::uint8_t>(250 + i);
+    std::vector<std::uint8_t> bytes;
+    for (std::size_t i = 0; i < size; ++i) bytes.push_back(static_cast<std::uint8_t>(250 + i));
     const auto back = DecodeBase64(EncodeBase64(bytes));
     ASSERT_TRUE(back);
     EXPECT_EQ(*back, bytes);
