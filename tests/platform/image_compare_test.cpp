@@ -15,7 +15,9 @@ using namespace win;
 class ImageCompare : public ::testing::Test {
  protected:
   void SetUp() override {
-    dir_ = std::filesystem::path(::testing::TempDir()) / "image_compare_test";
+    // One folder per test: CTest runs the tests of this fixture in parallel processes.
+    dir_ = std::filesystem::path(::testing::TempDir()) / "image_compare_test" /
+           ::testing::UnitTest::GetInstance()->current_test_info()->name();
     std::filesystem::remove_all(dir_);
     std::filesystem::create_directories(dir_);
   }
