@@ -46,6 +46,9 @@ class ControlSite {
   virtual void PropertyChanged(std::string_view name) = 0;
   // The characters that, pressed with Alt, reach the control's AccessKeyPress.
   virtual void SetAccessKeys(std::string_view keys) = 0;
+  // Told after each repaint of the control's surface, with the state painted. Hosts that record
+  // or mirror the surface use it; others ignore it.
+  virtual void Repainted(std::int32_t /*drawState*/) {}
 
   virtual const AmbientProperties& Ambient() const = 0;
   // Null when the container has no extender object.

@@ -1,0 +1,20 @@
+// Case-insensitive comparison of ASCII names, as late binding and typed commands compare them.
+#pragma once
+
+#include <cctype>
+#include <string_view>
+
+namespace glyphon {
+
+inline bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    if (std::tolower(static_cast<unsigned char>(a[i])) !=
+        std::tolower(static_cast<unsigned char>(b[i]))) {
+      return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace glyphon

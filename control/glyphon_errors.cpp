@@ -1,0 +1,13 @@
+#include "control/glyphon_errors.h"
+
+#include <string>
+
+#include "platform/automation_error.h"
+
+namespace glyphon {
+
+void RaiseError(std::int32_t number, std::string_view source, std::string_view description) {
+  throw AutomationError(number, std::string(source), std::string(description));
+}
+
+}  // namespace glyphon
