@@ -1,5 +1,6 @@
 #include "control/about_box.h"
 
+#include <algorithm>
 #include <string>
 
 #include "control/glyphon_version.h"
@@ -92,8 +93,9 @@ win::HWND ShowAboutBox(win::HWND owner) {
   RegisterAboutClass();
   win::RECT ownerRect{};
   win::GetWindowRect(owner, &ownerRect);
-  const int x = ownerRect.left + (ownerRect.right - ownerRect.left - kWidth) / 2;
-  const int y = ownerRect.top + (ownerRect.bottom - ownerRect.top - kHeight) / 2;
+  // Centred over the button, but never off the top or left of the screen.
+  const int x = std::max(0, ownerRect.left + (ownerRect.right - ownerRect.left - kWidth) / 2);
+  const int y = std::max(0, ownerRect.top + (ownerRect.bottom - ownerRect.top - kHeight) / 2);
   const std::string title = std::string("About ") + kProductName;
   const win::HWND hwnd =
       win::CreateWindowExA(win::WS_EX_TOPMOST, kClassName, title.c_str(), win::WS_POPUP, x, y,

@@ -2,8 +2,6 @@
 
 #include <string>
 
-#include "platform/automation_error.h"
-
 namespace glyphon {
 
 void RaiseError(std::int32_t number, std::string_view source, std::string_view description) {

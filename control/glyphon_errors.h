@@ -1,13 +1,14 @@
-// The errors the button reports to its clients. The control's own errors share one number, the
-// automation object-error base plus 1000; the late-bound access uses the host's usual ones.
+// The errors the button reports to its clients. The control's own errors share one number
+// (kControlErrorNumber); the late-bound access uses the host's usual ones.
 #pragma once
 
 #include <cstdint>
 #include <string_view>
 
+#include "platform/automation_error.h"
+
 namespace glyphon {
 
-inline constexpr std::int32_t kControlErrorNumber = static_cast<std::int32_t>(0x800403E8);
 inline constexpr std::int32_t kTypeMismatchNumber = static_cast<std::int32_t>(0x800A000D);
 inline constexpr std::int32_t kOverflowNumber = static_cast<std::int32_t>(0x800A0006);
 inline constexpr std::int32_t kNoSuchMemberNumber = static_cast<std::int32_t>(0x800A01B6);

@@ -1,5 +1,4 @@
 // Construction, the one road to the screen, and the end of the control.
-#include <cmath>
 #include <limits>
 
 #include "content/paint_content.h"
@@ -9,6 +8,7 @@
 #include "control/tooltip.h"
 #include "styles/style_painters.h"
 #include "surface/canvas.h"
+#include "surface/rounding.h"
 
 namespace glyphon {
 
@@ -16,12 +16,13 @@ namespace {
 
 // The container reports its client size as real numbers; pixels are the nearest whole number,
 // halves to even.
+// A size that is not a number or does not fit gives 0.
 std::int32_t ToPixels(double size) {
   if (!(size > std::numeric_limits<std::int32_t>::min() &&
         size < std::numeric_limits<std::int32_t>::max())) {
     return 0;
   }
-  return static_cast<std::int32_t>(std::nearbyint(size));
+  return RoundHalfEven(size);
 }
 
 }  // namespace

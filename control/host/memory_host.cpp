@@ -33,12 +33,14 @@ std::string MouseRecord(const char* name, std::int16_t button, std::int16_t shif
   return text;
 }
 
-int WholePixels(double size) { return static_cast<int>(std::nearbyint(size)); }
+// The window holds the whole of a fractional client area.
+int WholePixels(double size) { return size > 0 ? static_cast<int>(std::ceil(size)) : 0; }
 
 }  // namespace
 
 MemoryHost::MemoryHost(const MemoryHostOptions& options)
-    : left_(options.left), top_(options.top), width_(options.width), height_(options.height) {
+    : record_(options.record),
+      left_(options.left), top_(options.top), width_(options.width), height_(options.height) {
   ambient_.userMode = options.userMode;
   const int formWidth = std::max(400, left_ + WholePixels(width_) + 40);
   const int formHeight = std::max(300, top_ + WholePixels(height_) + 40);
@@ -60,12 +62,14 @@ void MemoryHost::SetEnabled(bool enabled) {
   win::EnableWindow(window_, enabled ? win::TRUE : win::FALSE);
 }
 
-void MemoryHost::PropertyChanged(std::string_view name) {
-  log_.push_back("changed " + std::string(name));
+void MemoryHost::Record(std::string entry) {
+  if (record_) log_.push_back(std::move(entry));
 }
 
+void MemoryHost::PropertyChanged(std::string_view name) { Record("changed " + std::string(name)); }
+
 void MemoryHost::Repainted(std::int32_t drawState) {
-  log_.push_back(std::string("paint ") + StateName(drawState));
+  if (record_) Record(std::string("paint ") + StateName(drawState));
 }
 
 void MemoryHost::SetClientSize(double width, double height) {
@@ -96,47 +100,47 @@ bool MemoryHost::PressAccessKey(char key) {
 std::vector<std::string> MemoryHost::TakeLog() { return std::exchange(log_, {}); }
 
 void MemoryHost::Click() {
-  log_.emplace_back("Click");
+  Record("Click");
   if (handlers_.click) handlers_.click();
 }
 
 void MemoryHost::MouseMove(std::int16_t& button, std::int16_t& shift, float& x, float& y) {
-  log_.push_back(MouseRecord("MouseMove", button, shift, x, y));
+  if (record_) Record(MouseRecord("MouseMove", button, shift, x, y));
   if (handlers_.mouseMove) handlers_.mouseMove(button, shift, x, y);
 }
 
 void MemoryHost::MouseDown(std::int16_t& button, std::int16_t& shift, float& x, float& y) {
-  log_.push_back(MouseRecord("MouseDown", button, shift, x, y));
+  if (record_) Record(MouseRecord("MouseDown", button, shift, x, y));
   if (handlers_.mouseDown) handlers_.mouseDown(button, shift, x, y);
 }
 
 void MemoryHost::MouseUp(std::int16_t& button, std::int16_t& shift, float& x, float& y) {
-  log_.push_back(MouseRecord("MouseUp", button, shift, x, y));
+  if (record_) Record(MouseRecord("MouseUp", button, shift, x, y));
   if (handlers_.mouseUp) handlers_.mouseUp(button, shift, x, y);
 }
 
 void MemoryHost::KeyDown(std::int16_t& keyCode, std::int16_t& shift) {
-  log_.push_back("KeyDown(" + std::to_string(keyCode) + "," + std::to_string(shift) + ")");
+  Record("KeyDown(" + std::to_string(keyCode) + "," + std::to_string(shift) + ")");
   if (handlers_.keyDown) handlers_.keyDown(keyCode, shift);
 }
 
 void MemoryHost::KeyPress(std::int16_t& keyAscii) {
-  log_.push_back("KeyPress(" + std::to_string(keyAscii) + ")");
+  Record("KeyPress(" + std::to_string(keyAscii) + ")");
   if (handlers_.keyPress) handlers_.keyPress(keyAscii);
 }
 
 void MemoryHost::KeyUp(std::int16_t& keyCode, std::int16_t& shift) {
-  log_.push_back("KeyUp(" + std::to_string(keyCode) + "," + std::to_string(shift) + ")");
+  Record("KeyUp(" + std::to_string(keyCode) + "," + std::to_string(shift) + ")");
   if (handlers_.keyUp) handlers_.keyUp(keyCode, shift);
 }
 
 void MemoryHost::MouseOver() {
-  log_.emplace_back("MouseOver");
+  Record("MouseOver");
   if (handlers_.mouseOver) handlers_.mouseOver();
 }
 
 void MemoryHost::MouseOut() {
-  log_.emplace_back("MouseOut");
+  Record("MouseOut");
   if (handlers_.mouseOut) handlers_.mouseOut();
 }
 

@@ -32,6 +32,8 @@ struct MemoryHostOptions {
   double width = 81;
   double height = 25;
   bool userMode = true;
+  // Headless users that only render switch the log off.
+  bool record = true;
 };
 
 struct MemoryEventHandlers {
@@ -130,13 +132,13 @@ class MemoryHost final : public ControlSite, private GlyphonEvents {
   void MouseOver() override;
   void MouseOut() override;
 
-  void HandleMouse(win::UINT message, win::WPARAM wParam, win::LPARAM lParam);
-  void HandleKey(win::UINT message, win::WPARAM wParam);
+  void Record(std::string entry);
 
   win::HWND form_ = nullptr;
   win::HWND window_ = nullptr;
   win::HDC hdc_ = nullptr;
   HostedControl* control_ = nullptr;
+  bool record_;
   int left_;
   int top_;
   double width_;

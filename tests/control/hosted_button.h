@@ -1,0 +1,46 @@
+// A button on the in-memory host, with input injected through the soft engine as a user would
+// give it: screen points, buttons and keys.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "control/glyphon.h"
+#include "control/host/memory_host.h"
+#include "platform/soft/soft_engine.h"
+#include "platform/soft/user/user_system.h"
+
+namespace glyphon::testing {
+
+struct HostedButton {
+  // With initialize, the button gets InitProperties and the log starts empty afterwards.
+  explicit HostedButton(const MemoryHostOptions& options = {}, bool initialize = true);
+  ~HostedButton();
+  HostedButton(const HostedButton&) = delete;
+  HostedButton& operator=(const HostedButton&) = delete;
+
+  static win::soft::UserSystem& User();
+
+  win::POINT Screen(int x, int y) const;
+  void MoveTo(int x, int y);
+  void Press(int x, int y, win::soft::MouseButton button = win::soft::MouseButton::Left);
+  void Release(int x, int y, win::soft::MouseButton button = win::soft::MouseButton::Left);
+  void Click(int x, int y);
+  void Type(std::string_view text);
+  void TapKey(int virtualKey);
+
+  MemoryHost host;
+  Glyphon button;
+};
+
+// How many entries of the log equal entry.
+inline long CountOf(const std::vector<std::string>& log, std::string_view entry) {
+  return std::count(log.begin(), log.end(), entry);
+}
+
+// The entries of the log that start with prefix ("paint", "changed", an event name).
+std::vector<std::string> Only(const std::vector<std::string>& log, std::string_view prefix);
+
+}  // namespace glyphon::testing

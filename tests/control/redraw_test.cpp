@@ -1,0 +1,104 @@
+// The repaint pipeline: when it paints, at which size, and that it leaves nothing behind.
+#include <gtest/gtest.h>
+
+#include "tests/control/hosted_button.h"
+#include "tests/support/leak_check.h"
+
+namespace glyphon::testing {
+namespace {
+
+using Log = std::vector<std::string>;
+
+constexpr win::COLORREF kWhite = 0xFFFFFF;
+
+// Whitens the control's surface, repaints, and returns how many columns and rows the repaint
+// covered (the empty painters leave the fresh canvas black).
+win::SIZE PaintedExtent(HostedButton& hosted) {
+  const win::HDC hdc = hosted.host.hDC();
+  win::PatBlt(hdc, 0, 0, 16, 16, win::WHITENESS);
+  hosted.button.Refresh();
+  win::SIZE extent{0, 0};
+  while (extent.cx < 16 && win::GetPixel(hdc, extent.cx, 0) == 0) ++extent.cx;
+  while (extent.cy < 16 && win::GetPixel(hdc, 0, extent.cy) == 0) ++extent.cy;
+  return extent;
+}
+
+TEST(RedrawTest, FractionalSizesRoundHalfToEven) {
+  LeakCheck leaks;
+  MemoryHostOptions options;
+  options.width = 2.5;
+  options.height = 3.5;
+  HostedButton hosted(options);
+  const win::SIZE extent = PaintedExtent(hosted);
+  EXPECT_EQ(extent.cx, 2);
+  EXPECT_EQ(extent.cy, 4);
+  EXPECT_EQ(win::GetPixel(hosted.host.hDC(), 2, 0), kWhite) << "the blit stops at the size";
+
+  hosted.host.SetClientSize(5.5, 0.5);
+  const win::SIZE resized = PaintedExtent(hosted);
+  EXPECT_EQ(resized.cx, 0) << "a zero-height repaint blits nothing";
+  hosted.host.SetClientSize(5.5, 1.5);
+  EXPECT_EQ(PaintedExtent(hosted).cx, 6);
+}
+
+TEST(RedrawTest, ResizeRepaintsAtTheNewSize) {
+  LeakCheck leaks;
+  HostedButton hosted;
+  hosted.host.SetClientSize(7, 3);
+  EXPECT_EQ(hosted.host.Log(), Log{"paint Up"});
+  const win::SIZE extent = PaintedExtent(hosted);
+  EXPECT_EQ(extent.cx, 7);
+  EXPECT_EQ(extent.cy, 3);
+}
+
+TEST(RedrawTest, NothingPaintsWhileLoadingButRefresh) {
+  LeakCheck leaks;
+  HostedButton hosted({}, false);
+  Glyphon& b = hosted.button;
+  ASSERT_TRUE(b.SuppressRedraw());
+  b.SetCaption("early");
+  b.Paint();
+  b.Resize();
+  EXPECT_EQ(hosted.host.Log(), Log{"changed Caption"});
+
+  b.Refresh();
+  EXPECT_EQ(hosted.host.Log(), (Log{"changed Caption", "paint Up"}));
+  EXPECT_TRUE(b.SuppressRedraw()) << "Refresh puts the flag back";
+
+  b.InitProperties();
+  hosted.host.ClearLog();
+  b.Refresh();
+  EXPECT_FALSE(b.SuppressRedraw());
+  EXPECT_EQ(hosted.host.Log(), Log{"paint Up"});
+}
+
+TEST(RedrawTest, PaintMessageRepaintsThroughTheHost) {
+  LeakCheck leaks;
+  HostedButton hosted;
+  win::InvalidateRect(hosted.host.hWnd(), nullptr, win::FALSE);
+  win::UpdateWindow(hosted.host.hWnd());
+  EXPECT_EQ(hosted.host.Log(), Log{"paint Up"});
+}
+
+TEST(RedrawTest, TerminateDropsThreePicturesAndStopsListening) {
+  LeakCheck leaks;
+  HostedButton hosted;
+  Glyphon& b = hosted.button;
+  const StdPicture picture = StdPicture::FromBitmap(nullptr, false);
+  b.SetPicture(picture);
+  b.SetPictureDown(picture);
+  b.SetPictureOver(picture);
+  b.SetPictureDisabled(picture);
+  b.Terminate();
+  EXPECT_TRUE(b.Picture().IsNothing());
+  EXPECT_TRUE(b.PictureDown().IsNothing());
+  EXPECT_TRUE(b.PictureOver().IsNothing());
+  EXPECT_EQ(b.PictureDisabled(), picture) << "left to the object's own end";
+
+  hosted.host.ClearLog();
+  win::SetFocus(hosted.host.hWnd());
+  EXPECT_FALSE(b.HasFocus()) << "no longer subclassed";
+}
+
+}  // namespace
+}  // namespace glyphon::testing
