@@ -30,14 +30,14 @@ StdFont Glyphon::Font() const {
 // attribute order matters: weight comes last and wins over bold.
 void Glyphon::SetFont(const StdFont& font) {
   StdFont target = site_.Font().value_or(StdFont{});
-  target.SetBold(font.Bold());
-  target.SetCharset(font.Charset());
-  target.SetItalic(font.Italic());
-  target.SetName(font.Name());
-  target.SetSize(font.Size());
-  target.SetStrikethrough(font.Strikethrough());
-  target.SetUnderline(font.Underline());
-  target.SetWeight(font.Weight());
+  target.Bold(font.Bold());
+  target.Charset(font.Charset());
+  target.Italic(font.Italic());
+  target.Name(font.Name());
+  target.Size(font.Size());
+  target.Strikethrough(font.Strikethrough());
+  target.Underline(font.Underline());
+  target.Weight(font.Weight());
   site_.SetFont(target);
   Redraw(drawState_);
   Changed("Font");

@@ -104,8 +104,8 @@ TEST(PersistenceTest, RoundTripRestoresEveryProperty) {
   MemoryPropertyBag bag;
   const StdPicture picture = StdPicture::FromBitmap(nullptr, false);
   StdFont font;
-  font.SetName("Arial");
-  font.SetSize(10);
+  font.Name("Arial");
+  font.Size(10);
   {
     HostedButton saved;
     Glyphon& b = saved.button;

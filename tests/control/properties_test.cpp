@@ -249,15 +249,15 @@ TEST(PropertiesTest, FontIsCopiedIntoTheHostsFont) {
   HostedButton hosted;
   Glyphon& b = hosted.button;
   StdFont font;
-  font.SetName("Arial");
-  font.SetSize(12);
-  font.SetItalic(true);
-  font.SetWeight(700);
+  font.Name("Arial");
+  font.Size(12);
+  font.Italic(true);
+  font.Weight(700);
   hosted.host.ClearLog();
   b.SetFont(font);
   EXPECT_EQ(hosted.host.Log(), (Log{"paint Up", "changed Font"}));
 
-  font.SetName("Courier New");  // later changes to the caller's font do not reach the button
+  font.Name("Courier New");  // later changes to the caller's font do not reach the button
   EXPECT_EQ(b.Font().Name(), "Arial");
   EXPECT_EQ(b.Font().Size(), 12);
   EXPECT_TRUE(b.Font().Italic());
