@@ -53,8 +53,9 @@ win::LRESULT ControlWindowProc(win::HWND hwnd, win::UINT message, win::WPARAM wP
 }
 
 // Each engine keeps its own classes; registering again fails harmlessly.
-void RegisterWindowClass(win::LPCSTR name, win::WNDPROC procedure) {
+void RegisterWindowClass(win::LPCSTR name, win::WNDPROC procedure, win::UINT style) {
   win::WNDCLASSA windowClass{};
+  windowClass.style = style;
   windowClass.lpfnWndProc = procedure;
   windowClass.hInstance = win::GetModuleHandleA(nullptr);
   windowClass.lpszClassName = name;
@@ -84,13 +85,13 @@ std::int16_t KeyShift() {
 }  // namespace
 
 win::HWND CreateFormWindow(int width, int height) {
-  RegisterWindowClass(kFormClass, &FormWindowProc);
+  RegisterWindowClass(kFormClass, &FormWindowProc, 0);
   return win::CreateWindowExA(0, kFormClass, "Form1", win::WS_POPUP | win::WS_VISIBLE, 0, 0, width,
                               height, nullptr, nullptr, win::GetModuleHandleA(nullptr), nullptr);
 }
 
 win::HWND CreateControlWindow(win::HWND form, int left, int top, int width, int height) {
-  RegisterWindowClass(kControlClass, &ControlWindowProc);
+  RegisterWindowClass(kControlClass, &ControlWindowProc, win::CS_DBLCLKS);
   return win::CreateWindowExA(0, kControlClass, nullptr,
                               win::WS_CHILD | win::WS_VISIBLE | win::WS_TABSTOP, left, top, width,
                               height, form, nullptr, win::GetModuleHandleA(nullptr), nullptr);

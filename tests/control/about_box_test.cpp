@@ -37,12 +37,6 @@ TEST(AboutBoxTest, ShowsNameAndVersionAndOpensTheWebPage) {
   EXPECT_FALSE(win::IsWindow(about));
 }
 
-TEST(AboutBoxTest, VersionComesFromTheBuild) {
-  EXPECT_STREQ(kProductName, "Glyphon");
-  EXPECT_GT(std::string(kProductVersion).size(), 0u);
-  EXPECT_NE(std::string(kProductVersion).find('.'), std::string::npos);
-}
-
 TEST(AboutBoxTest, EndingTheButtonClosesAnOpenBox) {
   LeakCheck leaks;
   win::HWND about = nullptr;

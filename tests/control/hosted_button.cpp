@@ -36,6 +36,8 @@ void HostedButton::Click(int x, int y) {
   Release(x, y);
 }
 
+void HostedButton::Pause() { User().AdvanceClock(win::soft::UserSystem::kDoubleClickTime + 1); }
+
 void HostedButton::Type(std::string_view text) {
   for (const char character : text) User().Char(character);
 }

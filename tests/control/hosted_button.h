@@ -28,6 +28,8 @@ struct HostedButton {
   void Press(int x, int y, win::soft::MouseButton button = win::soft::MouseButton::Left);
   void Release(int x, int y, win::soft::MouseButton button = win::soft::MouseButton::Left);
   void Click(int x, int y);
+  // Lets the double-click time pass, so that the next press is a press of its own.
+  void Pause();
   void Type(std::string_view text);
   void TapKey(int virtualKey);
 

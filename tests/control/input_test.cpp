@@ -130,14 +130,6 @@ TEST(InputTest, SpaceKeepsTheButtonDownWhereverThePointerGoes) {
   EXPECT_EQ(hosted.button.DrawState(), DrawStateHot);  // pointer away, but focused
 }
 
-TEST(InputTest, SpaceWithoutFocusDoesNotPress) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  hosted.button.KeyDown(win::VK_SPACE, 0);
-  EXPECT_EQ(hosted.button.DrawState(), DrawStateUp);
-  EXPECT_EQ(hosted.host.Log(), Log{"KeyDown(32,0)"});
-}
-
 TEST(InputTest, EnterClicksOnlyWithFocusAndShowFocus) {
   LeakCheck leaks;
   HostedButton hosted;
@@ -183,6 +175,7 @@ TEST(InputTest, TypingAboutWhileHoldingTheMouseShowsTheAboutBox) {
   EXPECT_EQ(hosted.button.AboutWindow(), nullptr);
 
   // A new press forgets what was typed.
+  hosted.Pause();
   hosted.Click(5, 5);
   EXPECT_EQ(hosted.button.AboutWindow(), nullptr);
 }
@@ -203,6 +196,7 @@ TEST(InputTest, StealFocusFalseGivesTheFocusBackAfterAClick) {
   EXPECT_FALSE(hosted.button.HasFocus());
 
   hosted.button.SetStealFocus(true);
+  hosted.Pause();
   hosted.Click(5, 5);
   EXPECT_EQ(win::GetFocus(), hosted.host.hWnd()) << "a stealing button keeps it";
   win::DestroyWindow(other);
@@ -231,15 +225,7 @@ TEST(InputTest, DoubleClickShowsPressedAndClicksTwice) {
   hosted.User().DoubleClick(MouseButton::Left, hosted.Screen(5, 5));
   EXPECT_EQ(CountOf(hosted.host.Log(), "Click"), 2);
   EXPECT_EQ(CountOf(hosted.host.Log(), "paint Down"), 2);
-}
-
-TEST(InputTest, DoubleClickAfterARightClickDoesNotPress) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  hosted.button.MouseUp(2, 0, 5, 5);
-  hosted.host.ClearLog();
-  hosted.button.DblClick();
-  EXPECT_EQ(hosted.host.Log(), Log{});
+  EXPECT_EQ(Only(hosted.host.Log(), "MouseDown").size(), 1u) << "the second press is the double click";
 }
 
 TEST(InputTest, AccessKeyPressesForSixtyMillisecondsThenClicks) {

@@ -267,14 +267,5 @@ TEST(PropertiesTest, FontIsCopiedIntoTheHostsFont) {
   EXPECT_EQ(hosted.host.Font()->Name(), "Arial");
 }
 
-TEST(PropertiesTest, ContainerBackColorNeedsTheExtender) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  hosted.host.ExtenderObject().containerBackColor = 0x123456;
-  EXPECT_EQ(hosted.button.ContainerBackColor(), 0x123456u);
-  hosted.host.ExtenderObject().containerBackColor.reset();
-  EXPECT_THROW(hosted.button.ContainerBackColor(), AutomationError);
-}
-
 }  // namespace
 }  // namespace glyphon::testing
