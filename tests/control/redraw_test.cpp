@@ -59,20 +59,6 @@ TEST(RedrawTest, ResizeRepaintsAtTheNewSize) {
   EXPECT_EQ(extent.cy, 3);
 }
 
-TEST(RedrawTest, AFailingPassDoesNotStopTheOthers) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  hosted.button.SetStyle(zonStyleMac8x);
-  // The Mac face starts from the container's colour; without it the background pass fails.
-  hosted.host.ExtenderObject().containerBackColor.reset();
-  hosted.host.ClearLog();
-  hosted.button.Refresh();
-  EXPECT_EQ(hosted.host.Log(), Log{"paint Up"});
-  const win::HDC hdc = hosted.host.hDC();
-  EXPECT_NE(win::GetPixel(hdc, 40, 12), win::RGB(221, 221, 221)) << "no face";
-  EXPECT_EQ(win::GetPixel(hdc, 2, 2), win::RGB(255, 255, 255)) << "but the frame over it";
-}
-
 TEST(RedrawTest, NothingPaintsWhileLoadingButRefresh) {
   LeakCheck leaks;
   HostedButton hosted({}, false);
