@@ -12,7 +12,7 @@ namespace {
 class CaptionTarget {
  public:
   CaptionTarget() {
-    soft::ThreadSoftEngine().Text().UseFontFiles(
+    soft::ThreadSoftEngine().Text()->UseFontFiles(
         {"/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf"});
     dc_ = CreateCompatibleDC(nullptr);
     bitmap_ = CreateBitmap(120, 40, 1, 32, nullptr);
@@ -29,7 +29,7 @@ class CaptionTarget {
     DeleteObject(font_);
     DeleteObject(bitmap_);
     DeleteDC(dc_);
-    soft::ThreadSoftEngine().Text().UseFontFiles({});
+    soft::ThreadSoftEngine().Text()->UseFontFiles({});
   }
 
   void MeasureAndDraw(const char* caption, int width) {

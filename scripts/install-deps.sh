@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs the Debian 12 packages the build, the tests and the apps need. Safe to run again.
+# Installs the Debian 12 packages the build, the tests and the apps need, and any packages named
+# as arguments (scripts/windows-tests.sh adds the cross toolchain and Wine). Safe to run again.
 set -euo pipefail
 
 packages=(
@@ -9,6 +10,7 @@ packages=(
   nlohmann-json3-dev
   fonts-liberation2 fonts-wqy-microhei
   clang libclang-rt-14-dev
+  "$@"
 )
 
 missing=()

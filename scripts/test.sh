@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds, and runs the whole test suite.
-#   scripts/test.sh              release build (warnings are errors under CI)
-#   scripts/test.sh --sanitize   the same suite under AddressSanitizer and UBSan
+#   scripts/test.sh              release build (warnings are errors under CI), then the Windows
+#                                build under Wine (scripts/windows-tests.sh)
+#   scripts/test.sh --sanitize   the Linux suite under AddressSanitizer and UBSan
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -17,3 +18,8 @@ fi
 cmake --preset "$preset" >/dev/null
 cmake --build --preset "$preset"
 ctest --preset "$preset" --parallel "$(nproc)"
+
+# The Windows part comes after the Linux one, so that a machine without Wine still runs the rest.
+if [ "${1:-}" != "--sanitize" ]; then
+  scripts/windows-tests.sh
+fi

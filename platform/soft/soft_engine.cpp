@@ -48,7 +48,7 @@ const SystemColors& ClassicSystemColors() {
 
 SoftEngine::SoftEngine()
     : systemColors_(ClassicSystemColors()),
-      text_(std::make_unique<TextSystem>(*this)),
+      text_(NewTextSystem(*this)),
       user_(std::make_unique<UserSystem>(*this)) {
   CreateStockObjects();
   SetScreenSize(1024, 768);

@@ -14,6 +14,11 @@ namespace glyphon::win::soft {
 class TextSystem;
 class UserSystem;
 
+// Owns the engine's text system, which lives only in builds that have a glyph source.
+struct TextSystemDeleter {
+  void operator()(TextSystem* text) const;
+};
+
 using SystemColors = std::array<COLORREF, SYSTEM_COLOR_COUNT>;
 
 // The classic scheme the engine starts with.
@@ -63,7 +68,8 @@ class SoftEngine final : public Engine {
   // A DIB section of the given size in the format (depth, row order, colours) of another.
   HBITMAP CreateMatchingDibSection(HDC hdc, const Pixmap& format, int cx, int cy);
 
-  TextSystem& Text() { return *text_; }
+  // Null in builds without a glyph source (Windows, where text goes through the native engine).
+  TextSystem* Text() { return text_.get(); }
   UserSystem& User() { return *user_; }
 
  private:
@@ -79,7 +85,7 @@ class SoftEngine final : public Engine {
   std::array<HBRUSH, SYSTEM_COLOR_COUNT> systemColorBrushes_{};
   HBITMAP defaultBitmap_ = nullptr;
   std::shared_ptr<Pixmap> screen_;
-  std::unique_ptr<TextSystem> text_;
+  std::unique_ptr<TextSystem, TextSystemDeleter> text_;
   std::unique_ptr<UserSystem> user_;
 };
 

@@ -82,6 +82,18 @@ TEST_F(ImageCompare, MismatchWritesActualAndDiffNextToExpected) {
   DeleteObject(bitmap);
 }
 
+void SetUpdateGolden(bool update) {
+#ifdef _WIN32
+  _putenv_s("GLYPHON_UPDATE_GOLDEN", update ? "1" : "");  // an empty value removes it
+#else
+  if (update) {
+    ::setenv("GLYPHON_UPDATE_GOLDEN", "1", 1);
+  } else {
+    ::unsetenv("GLYPHON_UPDATE_GOLDEN");
+  }
+#endif
+}
+
 TEST_F(ImageCompare, MissingExpectedImageFailsUnlessUpdating) {
   LeakCheck leaks;
   const auto expected = dir_ / "new.png";
@@ -90,9 +102,9 @@ TEST_F(ImageCompare, MissingExpectedImageFailsUnlessUpdating) {
   EXPECT_FALSE(result);
   EXPECT_TRUE(std::filesystem::exists(ActualPathFor(expected)));
 
-  ::setenv("GLYPHON_UPDATE_GOLDEN", "1", 1);
+  SetUpdateGolden(true);
   EXPECT_TRUE(BitmapMatchesPng(bitmap, expected));
-  ::unsetenv("GLYPHON_UPDATE_GOLDEN");
+  SetUpdateGolden(false);
   EXPECT_TRUE(BitmapMatchesPng(bitmap, expected));
   DeleteObject(bitmap);
 }

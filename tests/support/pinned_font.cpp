@@ -6,9 +6,9 @@
 namespace glyphon::testing {
 
 PinnedFont::PinnedFont(const std::vector<std::string>& files) {
-  win::soft::ThreadSoftEngine().Text().UseFontFiles(files);
+  win::soft::ThreadSoftEngine().Text()->UseFontFiles(files);
 }
 
-PinnedFont::~PinnedFont() { win::soft::ThreadSoftEngine().Text().UseFontFiles({}); }
+PinnedFont::~PinnedFont() { win::soft::ThreadSoftEngine().Text()->UseFontFiles({}); }
 
 }  // namespace glyphon::testing

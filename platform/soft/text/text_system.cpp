@@ -46,6 +46,12 @@ TextSystem::TextSystem(SoftEngine& engine)
 
 TextSystem::~TextSystem() = default;
 
+void TextSystemDeleter::operator()(TextSystem* text) const { delete text; }
+
+std::unique_ptr<TextSystem, TextSystemDeleter> NewTextSystem(SoftEngine& engine) {
+  return std::unique_ptr<TextSystem, TextSystemDeleter>(new TextSystem(engine));
+}
+
 void TextSystem::UseFontFiles(const std::vector<std::string>& files) {
   library_->UseFontFiles(files);
   fonts_.clear();

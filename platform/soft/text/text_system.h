@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/soft/gdi_objects.h"
+#include "platform/soft/soft_engine.h"
 #include "platform/soft/text/text_layout.h"
 
 namespace glyphon::win::soft {
@@ -65,5 +66,8 @@ class TextSystem {
   std::vector<LayoutChar> chars_;
   std::vector<LayoutLine> lines_;
 };
+
+// The engine's text system, or null where the build has no glyph source.
+std::unique_ptr<TextSystem, TextSystemDeleter> NewTextSystem(SoftEngine& engine);
 
 }  // namespace glyphon::win::soft

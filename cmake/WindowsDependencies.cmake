@@ -1,0 +1,37 @@
+# Third-party libraries of the Windows cross build. Debian packages none of them for MinGW-w64
+# except zlib, so they are compiled here from sources that Debian ships:
+#   GoogleTest from /usr/src/googletest (libgtest-dev),
+#   libpng from its Debian source package, unpacked by scripts/windows-tests.sh into
+#   GLYPHON_LIBPNG_SOURCE_DIR.
+# FreeType and fontconfig are not used on Windows: see the soft engine's text note in README.md.
+
+find_package(ZLIB REQUIRED)
+
+set(GLYPHON_LIBPNG_SOURCE_DIR "${PROJECT_SOURCE_DIR}/build/windows-deps/libpng" CACHE PATH
+    "libpng sources for the Windows build")
+if(NOT EXISTS "${GLYPHON_LIBPNG_SOURCE_DIR}/png.h")
+  message(FATAL_ERROR "No libpng sources in ${GLYPHON_LIBPNG_SOURCE_DIR}: "
+                      "run scripts/windows-tests.sh --fetch-only, or set GLYPHON_LIBPNG_SOURCE_DIR")
+endif()
+
+# libpng's own configuration header for a default build, copied beside its sources' headers.
+set(png_config_dir "${CMAKE_BINARY_DIR}/libpng-config")
+configure_file("${GLYPHON_LIBPNG_SOURCE_DIR}/scripts/pnglibconf.h.prebuilt"
+               "${png_config_dir}/pnglibconf.h" COPYONLY)
+set(png_sources png pngerror pngget pngmem pngpread pngread pngrio pngrtran pngrutil pngset
+                pngtrans pngwio pngwrite pngwtran pngwutil)
+list(TRANSFORM png_sources PREPEND "${GLYPHON_LIBPNG_SOURCE_DIR}/")
+list(TRANSFORM png_sources APPEND ".c")
+add_library(glyphon_libpng STATIC ${png_sources})
+target_include_directories(glyphon_libpng SYSTEM PUBLIC "${GLYPHON_LIBPNG_SOURCE_DIR}"
+                                                        "${png_config_dir}")
+target_link_libraries(glyphon_libpng PUBLIC ZLIB::ZLIB)
+# The same name the Linux build gets from pkg-config.
+add_library(PkgConfig::PNG ALIAS glyphon_libpng)
+
+if(GLYPHON_BUILD_TESTS)
+  set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+  set(BUILD_GMOCK ON CACHE BOOL "" FORCE)
+  # Defines GTest::gtest, GTest::gtest_main and GTest::gmock as find_package(GTest) does.
+  add_subdirectory(/usr/src/googletest "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL SYSTEM)
+endif()
