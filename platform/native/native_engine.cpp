@@ -41,7 +41,7 @@ namespace {
 
 // ---- Layouts: every record we hand to Windows must be the one Windows expects. ---------------
 
-#define GLYPHON_SAME_RECORD(ours, theirs)                                                      \
+#define GLYPHON_SAME_RECORD(ours, theirs)                                                         \
   static_assert(sizeof(win::ours) == sizeof(::theirs) && alignof(win::ours) == alignof(::theirs), \
                 #ours " differs from Windows")
 #define GLYPHON_SAME_FIELD(ours, theirs, field) \

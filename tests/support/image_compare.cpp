@@ -29,25 +29,6 @@ bool UpdatingGoldens() {
   return value != nullptr && std::strcmp(value, "1") == 0;
 }
 
-// Differing pixels in red, equal ones as a faded grey copy of the expected image.
-Image DiffImage(const Image& actual, const Image& expected) {
-  Image diff = Image::Blank(expected.width, expected.height);
-  for (int y = 0; y < expected.height; ++y) {
-    for (int x = 0; x < expected.width; ++x) {
-      const std::uint8_t* e = expected.Pixel(x, y);
-      std::uint8_t* d = diff.Pixel(x, y);
-      if (std::memcmp(e, actual.Pixel(x, y), 4) != 0) {
-        d[0] = 0, d[1] = 0, d[2] = 255;
-      } else {
-        const auto grey = static_cast<std::uint8_t>(192 + (e[0] + e[1] + e[2]) / 12);
-        d[0] = d[1] = d[2] = grey;
-      }
-      d[3] = 255;
-    }
-  }
-  return diff;
-}
-
 ::testing::AssertionResult CompareWithFile(const std::optional<Image>& actual,
                                            const std::filesystem::path& expectedPath) {
   if (!actual) return ::testing::AssertionFailure() << "nothing to capture for " << expectedPath;
@@ -78,6 +59,24 @@ Image DiffImage(const Image& actual, const Image& expected) {
 }
 
 }  // namespace
+
+Image DiffImage(const Image& actual, const Image& expected) {
+  Image diff = Image::Blank(expected.width, expected.height);
+  for (int y = 0; y < expected.height; ++y) {
+    for (int x = 0; x < expected.width; ++x) {
+      const std::uint8_t* e = expected.Pixel(x, y);
+      std::uint8_t* d = diff.Pixel(x, y);
+      if (std::memcmp(e, actual.Pixel(x, y), 4) != 0) {
+        d[0] = 0, d[1] = 0, d[2] = 255;
+      } else {
+        const auto grey = static_cast<std::uint8_t>(192 + (e[0] + e[1] + e[2]) / 12);
+        d[0] = d[1] = d[2] = grey;
+      }
+      d[3] = 255;
+    }
+  }
+  return diff;
+}
 
 std::filesystem::path ActualPathFor(const std::filesystem::path& expected) {
   return Sibling(expected, ".actual.png");

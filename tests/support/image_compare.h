@@ -16,6 +16,9 @@ namespace glyphon::testing {
 
 ::testing::AssertionResult ImagesEqual(const Image& actual, const Image& expected);
 
+// Differing pixels in red, equal ones as a faded grey copy of the expected image (same sizes).
+Image DiffImage(const Image& actual, const Image& expected);
+
 ::testing::AssertionResult BitmapMatchesPng(win::HBITMAP bitmap,
                                             const std::filesystem::path& expected);
 // The whole bitmap selected into a memory DC.
