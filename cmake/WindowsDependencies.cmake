@@ -6,6 +6,21 @@
 # FreeType and fontconfig are not used on Windows: see the soft engine's text note in README.md.
 
 find_package(ZLIB REQUIRED)
+# nlohmann/json is header-only, so the host's copy serves the cross build; but only its own
+# folder may be on the include path (not /usr/include, which holds the host's C library), so the
+# headers are copied and described to find_package by a package file of our own.
+set(json_root "${CMAKE_BINARY_DIR}/nlohmann_json")
+file(COPY /usr/include/nlohmann DESTINATION "${json_root}/include")
+file(WRITE "${json_root}/nlohmann_jsonConfig.cmake" "
+if(NOT TARGET nlohmann_json::nlohmann_json)
+  add_library(nlohmann_json::nlohmann_json INTERFACE IMPORTED)
+  set_target_properties(nlohmann_json::nlohmann_json PROPERTIES
+    INTERFACE_INCLUDE_DIRECTORIES \"${json_root}/include\")
+endif()
+")
+file(COPY /usr/share/cmake/nlohmann_json/nlohmann_jsonConfigVersion.cmake
+     DESTINATION "${json_root}")
+set(nlohmann_json_DIR "${json_root}" CACHE PATH "nlohmann/json for the Windows build" FORCE)
 
 set(GLYPHON_LIBPNG_SOURCE_DIR "${PROJECT_SOURCE_DIR}/build/windows-deps/libpng" CACHE PATH
     "libpng sources for the Windows build")
