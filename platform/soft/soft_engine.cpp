@@ -1,7 +1,10 @@
 #include "platform/soft/soft_engine.h"
 
 #include <cstring>
+#include <map>
+#include <mutex>
 #include <span>
+#include <thread>
 
 #include "platform/soft/gdi/default_color_tables.h"
 #include "platform/soft/text/text_system.h"
@@ -56,9 +59,46 @@ SoftEngine::SoftEngine()
 
 SoftEngine::~SoftEngine() = default;
 
+namespace {
+
+// The engines of the running threads. A thread's engine is deleted at its exit by a hook that
+// finds it by thread id and reads no thread-local storage: MinGW's emulated thread-local storage
+// can be released before thread-local destructors run, so the engine must not live in it.
+struct ThreadEngines {
+  std::mutex mutex;
+  std::map<std::thread::id, std::unique_ptr<SoftEngine>> engines;
+};
+
+ThreadEngines& Engines() {
+  static ThreadEngines* const engines = new ThreadEngines;  // never destroyed: threads may outlive
+  return *engines;                                          // the static destructors
+}
+
+struct ThreadExit {
+  ~ThreadExit() {
+    std::unique_ptr<SoftEngine> engine;
+    {
+      std::lock_guard lock(Engines().mutex);
+      auto it = Engines().engines.find(std::this_thread::get_id());
+      if (it == Engines().engines.end()) return;
+      engine = std::move(it->second);
+      Engines().engines.erase(it);
+    }
+  }
+};
+
+}  // namespace
+
 SoftEngine& ThreadSoftEngine() {
-  thread_local SoftEngine engine;
-  return engine;
+  thread_local SoftEngine* engine = nullptr;
+  thread_local ThreadExit exitHook;  // constructed here, so its destructor runs at thread exit
+  if (engine == nullptr) {
+    auto created = std::make_unique<SoftEngine>();
+    engine = created.get();
+    std::lock_guard lock(Engines().mutex);
+    Engines().engines[std::this_thread::get_id()] = std::move(created);
+  }
+  return *engine;
 }
 
 namespace {
@@ -134,8 +174,8 @@ void SoftEngine::CreateStockObjects() {
   add(DC_PEN, StockPen(PS_SOLID, RGB(0, 0, 0)));
 
   for (int i = 0; i < SYSTEM_COLOR_COUNT; ++i) {
-    systemColorBrushes_[i] = reinterpret_cast<HBRUSH>(
-        objects_.Add(StockBrush(BS_SOLID, systemColors_[i])));
+    systemColorBrushes_[i] =
+        reinterpret_cast<HBRUSH>(objects_.Add(StockBrush(BS_SOLID, systemColors_[i])));
   }
 
   auto bitmap = Stock<BitmapObject>();
