@@ -190,8 +190,15 @@ struct ICONINFO {
   HBITMAP hbmColor;
 };
 
-using WNDPROC = LRESULT (*)(HWND, UINT, WPARAM, LPARAM);
-using TIMERPROC = void (*)(HWND, UINT, UINT_PTR, DWORD);
+// Window and timer procedures are called by the system with its own calling convention, which on
+// 32-bit Windows is not the compiler's default: declare them GLYPHON_CALLBACK.
+#if defined(_WIN32) && defined(__i386__)
+#define GLYPHON_CALLBACK __attribute__((stdcall))
+#else
+#define GLYPHON_CALLBACK
+#endif
+using WNDPROC = LRESULT(GLYPHON_CALLBACK*)(HWND, UINT, WPARAM, LPARAM);
+using TIMERPROC = void(GLYPHON_CALLBACK*)(HWND, UINT, UINT_PTR, DWORD);
 
 struct MSG {
   HWND hwnd;

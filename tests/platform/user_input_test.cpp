@@ -9,7 +9,7 @@ using InputTest = UserTest;
 
 HWND focusSeenInKillFocus = nullptr;
 
-LRESULT FocusProbe(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT GLYPHON_CALLBACK FocusProbe(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_KILLFOCUS) focusSeenInKillFocus = GetFocus();
   return RecordingProc(hwnd, message, wParam, lParam);
 }

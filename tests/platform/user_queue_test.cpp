@@ -8,9 +8,9 @@ using QueueTest = UserTest;
 
 std::vector<std::pair<UINT_PTR, DWORD>> fired;  // timer id, tick count when it fired
 
-void RecordTimer(HWND, UINT, UINT_PTR id, DWORD tick) { fired.emplace_back(id, tick); }
+void GLYPHON_CALLBACK RecordTimer(HWND, UINT, UINT_PTR id, DWORD tick) { fired.emplace_back(id, tick); }
 
-LRESULT TimerWindow(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT GLYPHON_CALLBACK TimerWindow(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_TIMER) {
     fired.emplace_back(wParam, GetTickCount());
     if (wParam == 9) KillTimer(hwnd, 9);  // a one-shot

@@ -32,7 +32,7 @@ inline void*& LastCreateParam() {
   return param;
 }
 
-inline LRESULT RecordingProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+inline LRESULT GLYPHON_CALLBACK RecordingProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   Log().push_back(Received{hwnd, message, wParam, lParam});
   if (message == WM_CREATE) {
     LastCreateParam() = reinterpret_cast<const CREATESTRUCTA*>(lParam)->lpCreateParams;

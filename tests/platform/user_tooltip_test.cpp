@@ -13,7 +13,7 @@ const char* answer = "Hello";  // null: answer through szText
 std::vector<std::pair<NMHDR, WPARAM>> notes;
 
 // A button as the control builds it: mouse messages relayed, the text given on request.
-LRESULT ButtonProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT GLYPHON_CALLBACK ButtonProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_MOUSEMOVE:
     case WM_LBUTTONDOWN:

@@ -8,6 +8,10 @@ namespace {
 
 using WindowTest = UserTest;
 
+LRESULT GLYPHON_CALLBACK RefusingProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+  return message == WM_CREATE ? -1 : RecordingProc(hwnd, message, wParam, lParam);
+}
+
 TEST_F(WindowTest, CreationSendsItsMessagesInOrderAndCanBeRefused) {
   int param = 7;
   HWND hwnd = CreateWindowExA(0, "recorder", "title", WS_POPUP | WS_VISIBLE, 10, 20, 30, 40,
@@ -28,9 +32,7 @@ TEST_F(WindowTest, CreationSendsItsMessagesInOrderAndCanBeRefused) {
                             nullptr),
             nullptr);
   WNDCLASSA refusing{};
-  refusing.lpfnWndProc = [](HWND h, UINT m, WPARAM w, LPARAM l) -> LRESULT {
-    return m == WM_CREATE ? -1 : RecordingProc(h, m, w, l);
-  };
+  refusing.lpfnWndProc = RefusingProc;
   refusing.lpszClassName = "Refusing";
   ASSERT_NE(RegisterClassA(&refusing), 0);
   Log().clear();
@@ -53,17 +55,17 @@ TEST_F(WindowTest, ClassesAreUniqueAndOutliveTheirWindowsOnly) {
 }
 
 // The chain the control builds: a replacement procedure that forwards to the one it replaced.
-LRESULT Outer(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
-LRESULT Inner(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT GLYPHON_CALLBACK Outer(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT GLYPHON_CALLBACK Inner(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 WNDPROC innerPrevious = nullptr;
 WNDPROC outerPrevious = nullptr;
 std::vector<int> visits;
 
-LRESULT Inner(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT GLYPHON_CALLBACK Inner(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_USER) visits.push_back(1);
   return CallWindowProcA(innerPrevious, hwnd, message, wParam, lParam) + 10;
 }
-LRESULT Outer(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT GLYPHON_CALLBACK Outer(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_USER) visits.push_back(2);
   return CallWindowProcA(outerPrevious, hwnd, message, wParam, lParam) + 100;
 }

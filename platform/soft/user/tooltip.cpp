@@ -30,7 +30,7 @@ std::string TipText(LPCSTR text) {
 
 }  // namespace
 
-LRESULT TooltipWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT GLYPHON_CALLBACK TooltipWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   // Window procedures run with their window's engine installed (CallWindowProcA sees to it).
   auto* engine = dynamic_cast<SoftEngine*>(&CurrentEngine());
   if (engine == nullptr) return 0;

@@ -11,7 +11,7 @@
 
 namespace glyphon::win::soft {
 
-LRESULT TooltipWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT GLYPHON_CALLBACK TooltipWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
 class Tooltip final : public ControlState {
  public:
