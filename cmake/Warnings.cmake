@@ -10,9 +10,3 @@ if(GLYPHON_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(glyphon_flags INTERFACE -fsanitize=address,undefined)
 endif()
-
-if(MINGW)
-  # MinGW-w64's GCC 12 flags writes into loops over empty vectors that never run (false positives
-  # at -O3 that the native GCC does not report).
-  target_compile_options(glyphon_flags INTERFACE -Wno-stringop-overflow)
-endif()
