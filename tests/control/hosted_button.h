@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,7 +39,7 @@ struct HostedButton {
 };
 
 // How many entries of the log equal entry.
-inline long CountOf(const std::vector<std::string>& log, std::string_view entry) {
+inline std::ptrdiff_t CountOf(const std::vector<std::string>& log, std::string_view entry) {
   return std::count(log.begin(), log.end(), entry);
 }
 
