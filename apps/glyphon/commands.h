@@ -17,6 +17,9 @@ struct Command {
 // Paints every look of the button onto one labelled sheet and writes it as a PNG.
 int RunGallery(std::span<const std::string> arguments);
 
+// The live demo form, in a window or replaying a script of input without one.
+int RunDemo(std::span<const std::string> arguments);
+
 // Paints one button, set up from the command line, and writes its client area as a PNG.
 int RunRender(std::span<const std::string> arguments);
 

@@ -4,8 +4,7 @@
 #include "apps/glyphon/button_scene.h"
 #include "apps/glyphon/commands.h"
 #include "apps/glyphon/render_options.h"
-#include "control/host/memory_property_bag.h"
-#include "control/host/property_bag_file.h"
+#include "control/host/saved_form_bags.h"
 #include "control/property_access.h"
 #include "platform/automation_error.h"
 #include "platform/codec/picture_error.h"
@@ -17,18 +16,14 @@ namespace {
 
 // The first control's bag of a saved form.
 MemoryPropertyBag LoadProperties(const std::filesystem::path& file) {
-  SavedFormRead read = ReadSavedFormFile(file);
+  const SavedFormRead read = ReadSavedFormFile(file);
   for (const std::string& note : read.skipped) {
     std::cerr << "glyphon render: " << file.string() << ": skipped " << note << "\n";
   }
   if (read.form.controls.empty()) {
     throw std::runtime_error(file.string() + " holds no control");
   }
-  MemoryPropertyBag bag;
-  for (SavedEntry& entry : read.form.controls.front().properties) {
-    bag.Store(entry.key, std::move(entry.value));
-  }
-  return bag;
+  return BagOfEntries(read.form.controls.front().properties);
 }
 
 // Through the control's own setters, by name; a value of @FILE is a picture file.
