@@ -7,39 +7,14 @@
 #include "control/glyphon_metadata.h"
 #include "control/value_coercion.h"
 #include "propertypage/enumeration_items.h"
+#include "propertypage/general_page_layout.h"
 #include "propertypage/picture_spacing_text.h"
 
 namespace glyphon {
 
 namespace {
 
-using Kind = PageControlKind;
-
-// Two columns: labelled boxes and lists on the left, the display options on the right.
-constexpr int kMargin = 8;
-constexpr int kRowPitch = 27;
-constexpr int kLabelWidth = 104;
-constexpr int kEditorLeft = kMargin + kLabelWidth + 4;
-constexpr int kEditorWidth = 196;
-constexpr int kEditorHeight = 21;
-constexpr int kTextHeight = 16;
-constexpr int kOptionsLeft = kEditorLeft + kEditorWidth + 16;
-constexpr int kOptionsWidth = GeneralPage::kWidth - kMargin - kOptionsLeft;
-constexpr int kCheckPitch = 24;
-constexpr int kCheckHeight = 18;
-
-constexpr win::RECT Box(int left, int top, int width, int height) {
-  return win::RECT{left, top, left + width, top + height};
-}
-constexpr win::RECT LabelBounds(int row) {
-  return Box(kMargin, kMargin + row * kRowPitch + 3, kLabelWidth, kTextHeight);
-}
-constexpr win::RECT EditorBounds(int row) {
-  return Box(kEditorLeft, kMargin + row * kRowPitch, kEditorWidth, kEditorHeight);
-}
-constexpr win::RECT CheckBounds(int index) {
-  return Box(kOptionsLeft + 8, kMargin + 22 + index * kCheckPitch, kOptionsWidth - 8, kCheckHeight);
-}
+using namespace general_page_layout;
 
 // Reads a property of the selected control as the type a page control shows.
 template <class T>
@@ -88,41 +63,39 @@ class LoadingScope {
 }  // namespace
 
 GeneralPage::GeneralPage()
-    : txtCaption({"txtCaption", Kind::TextBox, "", EditorBounds(0)}, *this),
-      lblCaption({"lblCaption", Kind::Label, "&Caption:", LabelBounds(0)}, *this, &txtCaption),
-      cboStyle({"cboStyle", Kind::DropDownList, "", EditorBounds(1)}, *this),
-      lblStyle({"lblStyle", Kind::Label, "&Style:", LabelBounds(1)}, *this, &cboStyle),
-      cboBorderStyle({"cboBorderStyle", Kind::DropDownList, "", EditorBounds(2)}, *this),
-      lblBorderStyle({"lblBorderStyle", Kind::Label, "&Border Style", LabelBounds(2)}, *this,
-                     &cboBorderStyle),
-      cboAlignment({"cboAlignment", Kind::DropDownList, "", EditorBounds(3)}, *this),
-      lblAlignment({"lblAlignment", Kind::Label, "A&lignment:", LabelBounds(3)}, *this, &cboAlignment),
-      cboPictureStyle({"cboPictureStyle", Kind::DropDownList, "", EditorBounds(4)}, *this),
-      lblPictureStyle({"lblPictureStyle", Kind::Label, "Pictu&re Style:", LabelBounds(4)}, *this,
-                      &cboPictureStyle),
-      cboPictureAlignment({"cboPictureAlignment", Kind::DropDownList, "", EditorBounds(5)}, *this),
-      lblPictureAlignment({"lblPictureAlignment", Kind::Label, "&Picture Alignment:", LabelBounds(5)},
-                          *this, &cboPictureAlignment),
-      txtPictureSpacing({"txtPictureSpacing", Kind::TextBox, "", EditorBounds(6)}, *this),
-      lblPictureSpacing({"lblPictureSpacing", Kind::Label, "P&icture Spacing:", LabelBounds(6)}, *this,
+    : txtCaption(Editor("txtCaption", Kind::TextBox, 0), *this),
+      lblCaption(RowLabel("lblCaption", "&Caption:", 0), *this, &txtCaption),
+      cboStyle(Editor("cboStyle", Kind::DropDownList, 1), *this),
+      lblStyle(RowLabel("lblStyle", "&Style:", 1), *this, &cboStyle),
+      cboBorderStyle(Editor("cboBorderStyle", Kind::DropDownList, 2), *this),
+      lblBorderStyle(RowLabel("lblBorderStyle", "&Border Style", 2), *this, &cboBorderStyle),
+      cboAlignment(Editor("cboAlignment", Kind::DropDownList, 3), *this),
+      lblAlignment(RowLabel("lblAlignment", "A&lignment:", 3), *this, &cboAlignment),
+      cboPictureStyle(Editor("cboPictureStyle", Kind::DropDownList, 4), *this),
+      lblPictureStyle(RowLabel("lblPictureStyle", "Pictu&re Style:", 4), *this, &cboPictureStyle),
+      cboPictureAlignment(Editor("cboPictureAlignment", Kind::DropDownList, 5), *this),
+      lblPictureAlignment(RowLabel("lblPictureAlignment", "&Picture Alignment:", 5), *this,
+                          &cboPictureAlignment),
+      txtPictureSpacing(Editor("txtPictureSpacing", Kind::TextBox, 6), *this),
+      lblPictureSpacing(RowLabel("lblPictureSpacing", "P&icture Spacing:", 6), *this,
                         &txtPictureSpacing),
-      txtTag({"txtTag", Kind::TextBox, "", EditorBounds(7)}, *this),
-      lblTag({"lblTag", Kind::Label, "&Tag:", LabelBounds(7)}, *this, &txtTag),
-      Label1({"Label1", Kind::Label, "Display Options:", Box(kOptionsLeft, kMargin, kOptionsWidth,
-                                                       kTextHeight)},
-             *this, nullptr),
-      chkEnabled({"chkEnabled", Kind::CheckBox, "&Enabled", CheckBounds(0)}, *this),
-      chkShowDefault({"chkShowDefault", Kind::CheckBox, "Show&Default", CheckBounds(1)}, *this),
-      chkShowFocus({"chkShowFocus", Kind::CheckBox, "Show&Focus", CheckBounds(2)}, *this),
-      chkDropShadow({"chkDropShadow", Kind::CheckBox, "Dr&opShadow", CheckBounds(3)}, *this),
-      chkUseMaskColor({"chkUseMaskColor", Kind::CheckBox, "&UseMaskColor", CheckBounds(4)}, *this),
-      tabOrder_{&lblCaption,     &txtCaption,          &lblStyle,
-                &cboStyle,       &lblBorderStyle,      &cboBorderStyle,
-                &lblAlignment,   &cboAlignment,        &lblPictureStyle,
-                &cboPictureStyle, &lblPictureAlignment, &cboPictureAlignment,
-                &lblPictureSpacing, &txtPictureSpacing, &lblTag,
-                &txtTag,         &Label1,              &chkEnabled,
-                &chkShowDefault, &chkShowFocus,        &chkDropShadow,
+      txtTag(Editor("txtTag", Kind::TextBox, 7), *this),
+      lblTag(RowLabel("lblTag", "&Tag:", 7), *this, &txtTag),
+      Label1(OptionsTitle("Label1", "Display Options:"), *this, nullptr),
+      chkEnabled(Option("chkEnabled", "&Enabled", 0), *this),
+      chkShowDefault(Option("chkShowDefault", "Show&Default", 1), *this),
+      chkShowFocus(Option("chkShowFocus", "Show&Focus", 2), *this),
+      chkDropShadow(Option("chkDropShadow", "Dr&opShadow", 3), *this),
+      chkUseMaskColor(Option("chkUseMaskColor", "&UseMaskColor", 4), *this),
+      tabOrder_{&lblCaption, &txtCaption,
+                &lblStyle, &cboStyle,
+                &lblBorderStyle, &cboBorderStyle,
+                &lblAlignment, &cboAlignment,
+                &lblPictureStyle, &cboPictureStyle,
+                &lblPictureAlignment, &cboPictureAlignment,
+                &lblPictureSpacing, &txtPictureSpacing,
+                &lblTag, &txtTag,
+                &Label1, &chkEnabled, &chkShowDefault, &chkShowFocus, &chkDropShadow,
                 &chkUseMaskColor} {
   ConnectHandlers();
 }
