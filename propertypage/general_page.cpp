@@ -204,8 +204,8 @@ void GeneralPage::ApplyChanges() {
   SetChanged(false);
 }
 
-// ShowDefault is read-only to clients: its check box reflects the button and the style's
-// defaults, and the Style setter already applies them, so there is nothing to write.
+// ShowDefault is read-only to clients, so its check box only shows the button's value and the
+// style's default; the Style setter itself restores ShowDefault for Win9x and Win3x.
 void GeneralPage::WriteProperty(LateBoundObject& target, std::string_view name,
                                 const PropertyValue& value) {
   if (IsWritable(name)) target.SetProperty(name, value);

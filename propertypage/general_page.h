@@ -55,8 +55,8 @@ class GeneralPage final : private ControlObserver {
 
   // ---- The property-page contract ----
 
-  // The host's selection, first control first; the page keeps it for ApplyChanges and fills
-  // itself from the first control.
+  // The host's selection, first control first; the page keeps the pointers for ApplyChanges
+  // (they must stay valid until the next selection) and fills itself from the first control.
   void SelectionChanged(std::span<LateBoundObject* const> selectedControls);
   // Writes the page to the first selected control and, when every write succeeded, clears
   // Changed.
