@@ -12,8 +12,10 @@ namespace {
 using glyphon::apps::Command;
 
 constexpr Command kCommands[] = {
-    {"sample", "OUT.png", "paint a sample sheet of the drawing surfaces to a PNG",
-     glyphon::apps::RunSample},
+    {"gallery", "OUT.png", "paint every look of the button onto one labelled PNG",
+     glyphon::apps::RunGallery},
+    {"render", "[OPTIONS] OUT.png", "paint one button as the options set it up to a PNG",
+     glyphon::apps::RunRender},
 };
 
 int Usage() {
