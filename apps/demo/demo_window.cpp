@@ -9,15 +9,19 @@
 #include <fstream>
 #include <iostream>
 
+#include "apps/demo/page_panel.h"
 #include "apps/demo/sdl_keys.h"
+#include "apps/demo/sdl_message_box.h"
+#include "platform/soft/soft_engine.h"
 
 namespace glyphon::apps {
 
 namespace {
 
-constexpr int kWindowWidth = 1000;
-constexpr int kWindowHeight = 660;
 constexpr float kPad = 8;
+constexpr float kPanelLeft = DemoForm::kWidth + 2 * kPad;
+constexpr int kWindowWidth = static_cast<int>(kPanelLeft + kPad) + GeneralPage::kWidth + 24;
+constexpr int kWindowHeight = 660;
 
 win::soft::MouseButton MouseButtonOf(Uint8 button) {
   switch (button) {
@@ -30,7 +34,7 @@ win::soft::MouseButton MouseButtonOf(Uint8 button) {
 class DemoWindow {
  public:
   DemoWindow(DemoSession& session, const DemoWindowOptions& options)
-      : session_(session), options_(options) {
+      : session_(session), options_(options), page_(session) {
     if (options.eventLog) eventLog_.open(*options.eventLog, std::ios::app);
   }
   ~DemoWindow() { Close(); }
@@ -65,6 +69,7 @@ class DemoWindow {
   int screenshots_ = 0;
   int buttonsHeld_ = 0;
   std::string status_;
+  PagePanel page_;
 
   SDL_Window* window_ = nullptr;
   SDL_GLContext context_ = nullptr;
@@ -88,6 +93,10 @@ bool DemoWindow::Open() {
   ImGui_ImplSDL2_InitForOpenGL(window_, context_);
   ImGui_ImplOpenGL2_Init();
   imgui_ = true;
+  win::soft::ThreadSoftEngine().User().Hooks().messageBox =
+      [this](win::HWND, win::LPCSTR text, win::LPCSTR caption, win::UINT type) {
+        return ShowSdlMessageBox(window_, text, caption, type);
+      };
   glGenTextures(1, &formTexture_);
   glBindTexture(GL_TEXTURE_2D, formTexture_);
   glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
@@ -96,6 +105,7 @@ bool DemoWindow::Open() {
 }
 
 void DemoWindow::Close() {
+  win::soft::ThreadSoftEngine().User().Hooks().messageBox = nullptr;
   if (formTexture_ != 0) glDeleteTextures(1, &formTexture_);
   if (imgui_) {
     ImGui_ImplOpenGL2_Shutdown();
@@ -252,6 +262,7 @@ void DemoWindow::DrawPanels() {
       reinterpret_cast<ImTextureID>(static_cast<std::intptr_t>(formTexture_)), ImVec2(kPad, kPad),
       ImVec2(kPad + DemoForm::kWidth, kPad + DemoForm::kHeight));
   DrawEventPane();
+  page_.Draw(kPanelLeft, kPad);
 }
 
 void DemoWindow::DrawEventPane() {
