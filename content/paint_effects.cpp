@@ -18,6 +18,12 @@ win::HPALETTE PaintEffects::PaletteOr(win::HPALETTE hPal) const {
   return hPal != nullptr ? hPal : defaultPalette_;
 }
 
+win::COLORREF PaintEffects::ToRgb(win::OLE_COLOR color, win::HPALETTE hPal) const {
+  win::COLORREF rgb = 0;
+  win::OleTranslateColor(color, PaletteOr(hPal), &rgb);
+  return rgb & 0x00FFFFFFu;
+}
+
 void PaintEffects::PaintNormalStdPic(win::HDC hdcDest, int xDest, int yDest, int width,
                                      int height, const StdPicture& picSource, int xSrc, int ySrc,
                                      win::HPALETTE hPal) const {
@@ -39,12 +45,9 @@ void PaintEffects::PaintTransparentStdPic(win::HDC hdcDest, int xDest, int yDest
                                           int ySrc, win::OLE_COLOR clrMask,
                                           win::HPALETTE hPal) const {
   RequireDrawablePicture(picSource, "PaintTransparentStdPic");
-  const win::HPALETTE palette = PaletteOr(hPal);
-  win::COLORREF maskRgb = 0;
-  win::OleTranslateColor(clrMask, palette, &maskRgb);
   const ScreenDc screen;
-  const PictureSource source(screen.Get(), picSource, xSrc, ySrc, width, height, maskRgb,
-                             palette);
+  const PictureSource source(screen.Get(), picSource, xSrc, ySrc, width, height,
+                             ToRgb(clrMask, hPal), PaletteOr(hPal));
   PaintTransparentDC(hdcDest, xDest, yDest, width, height, source.Dc(), source.X(), source.Y(),
                      clrMask, hPal);
 }
@@ -55,12 +58,9 @@ void PaintEffects::PaintDisabledStdPic(win::HDC hdcDest, int xDest, int yDest, i
                                        win::OLE_COLOR clrHighlight, win::OLE_COLOR clrShadow,
                                        win::HPALETTE hPal) const {
   RequireDrawablePicture(picSource, "PaintDisabledStdPic");
-  const win::HPALETTE palette = PaletteOr(hPal);
-  win::COLORREF maskRgb = 0;
-  win::OleTranslateColor(clrMask, palette, &maskRgb);
   const ScreenDc screen;
-  const PictureSource source(screen.Get(), picSource, xSrc, ySrc, width, height, maskRgb,
-                             palette);
+  const PictureSource source(screen.Get(), picSource, xSrc, ySrc, width, height,
+                             ToRgb(clrMask, hPal), PaletteOr(hPal));
   PaintDisabledDC(hdcDest, xDest, yDest, width, height, source.Dc(), source.X(), source.Y(),
                   clrMask, clrHighlight, clrShadow, hPal);
 }

@@ -90,6 +90,9 @@ class PaintEffects {
 
  private:
   win::HPALETTE PaletteOr(win::HPALETTE hPal) const;
+  // The colour translated against the palette in use, as a plain RGB value: the translation
+  // marks it palette-relative, which would make black differ from RGB(0, 0, 0) in comparisons.
+  win::COLORREF ToRgb(win::OLE_COLOR color, win::HPALETTE hPal) const;
   // Draws the picture over clrMask on a scratch canvas, lets rewrite change its pixels
   // (0x00RRGGBB, rows top-down) and puts the result on destCanvas keyed on clrMask.
   template <class Rewrite>

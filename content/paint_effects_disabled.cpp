@@ -49,14 +49,10 @@ void PaintEffects::PaintDisabledDC(win::HDC hdcDest, int xDest, int yDest, int w
                                    win::HPALETTE hPal) const {
   const ScreenDc screen;
   const win::HPALETTE palette = PaletteOr(hPal);
-  win::COLORREF shadowRgb = 0;
-  win::COLORREF highlightRgb = 0;
-  win::COLORREF maskRgb = 0;
-  win::COLORREF whiteRgb = 0;
-  win::OleTranslateColor(clrShadow, palette, &shadowRgb);
-  win::OleTranslateColor(clrHighlight, palette, &highlightRgb);
-  win::OleTranslateColor(clrMask, palette, &maskRgb);
-  win::OleTranslateColor(kWhite, palette, &whiteRgb);
+  const win::COLORREF shadowRgb = ToRgb(clrShadow, hPal);
+  const win::COLORREF highlightRgb = ToRgb(clrHighlight, hPal);
+  const win::COLORREF maskRgb = ToRgb(clrMask, hPal);
+  const win::COLORREF whiteRgb = ToRgb(kWhite, hPal);
 
   // The picture in one bit: the platform's conversion decides what is dark; the keyed-out area
   // is made white first so that it never counts as ink.

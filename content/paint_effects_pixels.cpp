@@ -43,8 +43,7 @@ void PaintEffects::PaintRewritten(const StdPicture& picSource, Canvas& destCanva
   PaintTransparentStdPic(scratch.hdc(), 0, 0, picWidth, picHeight, picSource, 0, 0, clrMask,
                          hPal);
 
-  win::COLORREF maskRgb = 0;
-  win::OleTranslateColor(clrMask, PaletteOr(hPal), &maskRgb);
+  const win::COLORREF maskRgb = ToRgb(clrMask, hPal);
   win::BITMAPINFO info = TopDown32(picWidth, picHeight);
   std::vector<std::uint32_t> pixels(static_cast<std::size_t>(picWidth) *
                                     static_cast<std::size_t>(picHeight));
@@ -67,8 +66,7 @@ void PaintEffects::PaintMonoStandardPic(const StdPicture& picSource, Canvas& des
                                         win::OLE_COLOR clrMask, win::OLE_COLOR clrForeColor,
                                         win::HPALETTE hPal, bool useMaskColor) const {
   RequireDrawablePicture(picSource, "PaintMonoStandardPic");
-  win::COLORREF ink = 0;
-  win::OleTranslateColor(clrForeColor, PaletteOr(hPal), &ink);
+  const win::COLORREF ink = ToRgb(clrForeColor, hPal);
   PaintRewritten(picSource, destCanvas, xDest, yDest, picWidth, picHeight, clrMask, hPal,
                  [&](std::span<std::uint32_t> pixels, std::uint32_t mask) {
                    MakeSilhouette(pixels, mask, PixelOf(ink), useMaskColor);
@@ -81,8 +79,7 @@ void PaintEffects::PaintBlurredStandardPic(const StdPicture& picSource, Canvas& 
                                            win::OLE_COLOR clrShadow, win::HPALETTE hPal,
                                            bool useMaskColor) const {
   RequireDrawablePicture(picSource, "PaintBlurredStandardPic");
-  win::COLORREF shadow = 0;
-  win::OleTranslateColor(clrShadow, PaletteOr(hPal), &shadow);
+  const win::COLORREF shadow = ToRgb(clrShadow, hPal);
   PaintRewritten(picSource, destCanvas, xDest, yDest, picWidth, picHeight, clrMask, hPal,
                  [&](std::span<std::uint32_t> pixels, std::uint32_t mask) {
                    BlurPixels(pixels, picWidth, picHeight, smoothness, mask, PixelOf(shadow),

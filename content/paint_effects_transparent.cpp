@@ -15,8 +15,7 @@ void PaintEffects::PaintTransparentDC(win::HDC hdcDest, int xDest, int yDest, in
                                       win::OLE_COLOR clrMask, win::HPALETTE hPal) const {
   const ScreenDc screen;
   const win::HPALETTE palette = PaletteOr(hPal);
-  win::COLORREF maskRgb = 0;
-  win::OleTranslateColor(clrMask, palette, &maskRgb);
+  const win::COLORREF maskRgb = ToRgb(clrMask, hPal);
 
   const ScratchSurface work = ScratchSurface::Color(screen.Get(), width, height, palette);
   win::BitBlt(work.Dc(), 0, 0, width, height, hdcDest, xDest, yDest, win::SRCCOPY);
