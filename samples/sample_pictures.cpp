@@ -26,8 +26,11 @@ constexpr std::array<SampleInfo, 8> kSamples{{
 }};
 
 void DrawCheck(ShapePainter& paint) {
-  paint.Polygon({{2, 8}, {5, 5}, {7, 8}, {13, 1}, {15, 4}, {7, 13}}, kOutline);
-  paint.Polygon({{3, 8}, {5, 6.5}, {7, 9.5}, {13, 2.5}, {14, 4}, {7, 11.8}}, RGB(40, 176, 64));
+  constexpr Point kCorner{6.5, 12};
+  paint.Stroke({2, 7.5}, kCorner, 4.5, kOutline);
+  paint.Stroke(kCorner, {14.5, 2}, 4.5, kOutline);
+  paint.Stroke({2.8, 8.3}, kCorner, 2.5, RGB(40, 176, 64));
+  paint.Stroke({6.2, 11}, {13.8, 2.8}, 2.5, RGB(40, 176, 64));
 }
 
 void DrawFolder(ShapePainter& paint) {
@@ -38,9 +41,10 @@ void DrawFolder(ShapePainter& paint) {
 }
 
 void DrawArrow(ShapePainter& paint) {
-  paint.Polygon({{0, 4}, {8, 4}, {8, 0}, {15, 6.5}, {8, 13}, {8, 9}, {0, 9}}, RGB(0, 0, 128));
-  paint.Polygon({{1, 5}, {9, 5}, {9, 2.3}, {13.5, 6.5}, {9, 10.7}, {9, 8}, {1, 8}},
-                RGB(64, 128, 255));
+  paint.Rect(0, 4, 9, 9, RGB(0, 0, 128));
+  paint.Polygon({{8, 0}, {15, 6.5}, {8, 13}}, RGB(0, 0, 128));
+  paint.Rect(1, 5, 10, 8, RGB(64, 128, 255));
+  paint.Polygon({{9, 2.3}, {13.5, 6.5}, {9, 10.7}}, RGB(64, 128, 255));
 }
 
 void DrawSwatches(ShapePainter& paint) {

@@ -98,6 +98,16 @@ void ShapePainter::Disc(Point centre, double radius, win::COLORREF color, std::u
         color, alpha);
 }
 
+void ShapePainter::Stroke(Point from, Point to, double width, win::COLORREF color) {
+  const double length = std::hypot(to.x - from.x, to.y - from.y);
+  if (length <= 0) return;
+  const double nx = -(to.y - from.y) / length * width / 2;
+  const double ny = (to.x - from.x) / length * width / 2;
+  Polygon({{from.x + nx, from.y + ny}, {to.x + nx, to.y + ny}, {to.x - nx, to.y - ny},
+           {from.x - nx, from.y - ny}},
+          color);
+}
+
 void ShapePainter::Polygon(std::initializer_list<Point> corners, win::COLORREF color,
                            std::uint8_t alpha) {
   const std::vector<Point> points(corners);

@@ -26,7 +26,9 @@ class ShapePainter {
   // Pixels left <= x < right, top <= y < bottom.
   void Rect(int left, int top, int right, int bottom, win::COLORREF color);
   void Disc(Point centre, double radius, win::COLORREF color, std::uint8_t alpha = 255);
-  // Corners in order (either direction).
+  // A straight stroke of this width with square ends.
+  void Stroke(Point from, Point to, double width, win::COLORREF color);
+  // Corners of a convex polygon in order (either direction).
   void Polygon(std::initializer_list<Point> corners, win::COLORREF color,
                std::uint8_t alpha = 255);
 
