@@ -31,7 +31,8 @@ void RedrawXpBlueWithPicture(benchmark::State& state, std::int32_t pictureStyle)
   for (int x = 0; x < 81 && !green; ++x) {
     for (int y = 0; y < 25 && !green; ++y) {
       const win::COLORREF c = win::GetPixel(host.hDC(), x, y);
-      green = win::GetGValue(c) > win::GetRValue(c) + 40 && win::GetGValue(c) > win::GetBValue(c) + 20;
+      const int g = win::GetGValue(c);
+      green = g > win::GetRValue(c) + 40 && g > win::GetBValue(c) + 20;
     }
   }
   if (!green) state.SkipWithError("no picture in the repaint");

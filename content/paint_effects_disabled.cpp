@@ -61,7 +61,8 @@ void PaintEffects::PaintDisabledDC(win::HDC hdcDest, int xDest, int yDest, int w
   if (maskRgb != whiteRgb) {
     const ScratchSurface keyed = ScratchSurface::Color(screen.Get(), width, height, nullptr);
     const win::RECT all{0, 0, width, height};
-    win::FillRect(keyed.Dc(), &all, static_cast<win::HBRUSH>(win::GetStockObject(win::WHITE_BRUSH)));
+    const auto white = static_cast<win::HBRUSH>(win::GetStockObject(win::WHITE_BRUSH));
+    win::FillRect(keyed.Dc(), &all, white);
     PaintTransparentDC(keyed.Dc(), 0, 0, width, height, hdcSrc, xSrc, ySrc, maskRgb, hPal);
     win::BitBlt(bits.Dc(), 0, 0, width, height, keyed.Dc(), 0, 0, win::SRCCOPY);
   } else {

@@ -36,7 +36,8 @@ StdPicture PixelArt(const std::vector<std::string>& rows) {
   Image image = Image::Blank(static_cast<int>(rows[0].size()), static_cast<int>(rows.size()));
   for (int y = 0; y < image.height; ++y) {
     for (int x = 0; x < image.width; ++x) {
-      const win::COLORREF color = kLegend.at(rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)]);
+      const std::string& row = rows[static_cast<std::size_t>(y)];
+      const win::COLORREF color = kLegend.at(row[static_cast<std::size_t>(x)]);
       std::uint8_t* pixel = image.Pixel(x, y);
       pixel[0] = win::GetBValue(color);
       pixel[1] = win::GetGValue(color);
