@@ -2,6 +2,7 @@
 #include <iostream>
 
 #include "apps/glyphon/commands.h"
+#include "apps/glyphon/content_sections.h"
 #include "apps/glyphon/gallery_sheet.h"
 #include "platform/codec/bitmap_png.h"
 #include "surface/canvas.h"
@@ -14,7 +15,8 @@ int RunGallery(std::span<const std::string> arguments) {
     return 1;
   }
   const std::filesystem::path out = arguments[0];
-  const std::vector<GallerySection> sections = {StyleSection()};
+  std::vector<GallerySection> sections = {StyleSection()};
+  for (GallerySection& section : ContentSections()) sections.push_back(std::move(section));
   const win::SIZE size = GallerySheetSize(sections);
   Canvas sheet;
   sheet.CreatehDC();

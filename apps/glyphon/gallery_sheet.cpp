@@ -125,15 +125,20 @@ GallerySection StyleSection() {
                               button.SetCaption("&Glyphon");
                             }});
   }
-  section.columns = {
+  section.columns = StateColumns();
+  section.columns.insert(section.columns.begin() + 3,
+                         {{"default", [](ButtonScene& scene) { scene.MakeDefault(); }},
+                          {"focused", [](ButtonScene& scene) { scene.Focus(); }}});
+  return section;
+}
+
+std::vector<GalleryColumn> StateColumns() {
+  return {
       {"normal", nullptr},
       {"hot", [](ButtonScene& scene) { scene.Reach(SceneState::Hot); }},
       {"pressed", [](ButtonScene& scene) { scene.Reach(SceneState::Pressed); }},
-      {"default", [](ButtonScene& scene) { scene.MakeDefault(); }},
-      {"focused", [](ButtonScene& scene) { scene.Focus(); }},
       {"disabled", [](ButtonScene& scene) { scene.Button().SetEnabled(false); }},
   };
-  return section;
 }
 
 }  // namespace glyphon::apps

@@ -41,4 +41,7 @@ void PaintGallerySheet(Canvas& sheet, const std::vector<GallerySection>& section
 // The looks of every style: rows of styles, columns of states and flags.
 GallerySection StyleSection();
 
+// The columns of the states a user brings a button to, and of the disabled button.
+std::vector<GalleryColumn> StateColumns();
+
 }  // namespace glyphon::apps
