@@ -3,6 +3,7 @@
 //   GLYPHON_UPDATE_GOLDEN=1 build/release/tests/style_tests --gtest_filter='AllStyles/*'
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -142,6 +143,9 @@ std::vector<LookCase> AllCases() {
   }
   return cases;
 }
+
+// Test listings show the case by its image's name.
+void PrintTo(const LookCase& c, std::ostream* os) { *os << NameOf(c); }
 
 TestButton ButtonFor(const LookCase& c) {
   TestButton button;

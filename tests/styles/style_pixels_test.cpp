@@ -302,16 +302,6 @@ TEST(StylePixels, MacBodyStartsInsideTheDefaultRing) {
   EXPECT_EQ(At(*pressed, kW - 3, kH - 3), win::RGB(221, 221, 221));
 }
 
-TEST(StylePixels, MacFrameIgnoresTheButtonsColours) {
-  LeakCheck leaks;
-  TestButton button = Button(zonStyleMac8x);
-  button.isDefault = true;
-  const auto standard = PaintLook(button, kW, kH, DrawStateUp);
-  button.SetBackColor(kPeach);
-  button.foreColor = kPeach;
-  EXPECT_TRUE(SameArea(DifferingArea(*standard, *PaintLook(button, kW, kH, DrawStateUp)), {}));
-}
-
 TEST(StylePixels, PressedXPInnerCorners) {
   LeakCheck leaks;
   const auto olive = PaintLook(Button(zonStyleWinXPOliveGreen), kW, kH, DrawStateDown);
