@@ -1,4 +1,6 @@
-// The two style passes of a repaint: the face before the content, the frame over it.
+// The two style passes of a repaint: the face before the content, the frame over it. A Style
+// outside the six looks paints nothing. A container that cannot report its back colour ends the
+// pass with AutomationError; the repaint guards each pass.
 #pragma once
 
 #include <cstdint>
