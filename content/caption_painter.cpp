@@ -1,6 +1,6 @@
 #include "content/caption_painter.h"
 
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "surface/canvas.h"
 
 namespace glyphon {

@@ -1,6 +1,6 @@
 #include "content/content_layout.h"
 
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "surface/rounding.h"
 
 namespace glyphon {

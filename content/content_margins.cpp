@@ -1,6 +1,6 @@
 #include "content/content_margins.h"
 
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 
 namespace glyphon {
 

@@ -5,7 +5,7 @@
 #include "content/hi_metric.h"
 #include "content/picture_choice.h"
 #include "content/picture_painter.h"
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "surface/canvas.h"
 
 namespace glyphon {

@@ -1,6 +1,6 @@
 #include "content/picture_choice.h"
 
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 
 namespace glyphon {
 

@@ -3,8 +3,8 @@
 #include "content/paint_effects.h"
 #include "content/picture_choice.h"
 #include "content/pixel_effects.h"
-#include "control/glyphon_constants.h"
-#include "control/ignore_errors.h"
+#include "content/glyphon_constants.h"
+#include "platform/ignore_errors.h"
 #include "surface/canvas.h"
 
 namespace glyphon {

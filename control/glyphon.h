@@ -12,7 +12,7 @@
 #include <string_view>
 
 #include "content/button_view.h"
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "control/host/control_site.h"
 #include "control/host/hosted_control.h"
 #include "platform/win32.h"

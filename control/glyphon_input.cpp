@@ -2,7 +2,7 @@
 // events. Input never throws; a failing step is skipped.
 #include "control/ascii_case.h"
 #include "control/glyphon.h"
-#include "control/ignore_errors.h"
+#include "platform/ignore_errors.h"
 
 namespace glyphon {
 

@@ -1,7 +1,7 @@
 // New instances, loading and saving through the container's property bag.
 #include "control/bag_io.h"
 #include "control/glyphon.h"
-#include "control/ignore_errors.h"
+#include "platform/ignore_errors.h"
 #include "control/value_coercion.h"
 #include "surface/mod_colors.h"
 

@@ -4,7 +4,7 @@
 #include "content/paint_content.h"
 #include "control/about_box.h"
 #include "control/glyphon.h"
-#include "control/ignore_errors.h"
+#include "platform/ignore_errors.h"
 #include "control/tooltip.h"
 #include "styles/style_painters.h"
 #include "surface/canvas.h"

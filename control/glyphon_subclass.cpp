@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "control/glyphon.h"
-#include "control/ignore_errors.h"
+#include "platform/ignore_errors.h"
 #include "control/tooltip.h"
 #include "surface/mod_colors.h"
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 
 namespace glyphon {
 

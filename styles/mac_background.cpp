@@ -1,6 +1,6 @@
 // The Mac face: the container's colour around a light grey body, so that the frame's rounded
 // corners show the form behind the button.
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "styles/canvas_steps.h"
 #include "styles/look_painters.h"
 #include "surface/canvas.h"

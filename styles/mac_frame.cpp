@@ -1,7 +1,7 @@
 // The Mac frame, pixel by pixel in fixed greys: a heavy rounded ring around a default button, then
 // the body's black rounded outline with a light top-left and dark bottom-right bevel, inverted
 // when pressed. It takes no colour from the button and draws no focus rectangle.
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "styles/canvas_steps.h"
 #include "styles/look_painters.h"
 #include "styles/margins.h"

@@ -1,6 +1,6 @@
 #include "styles/style_painters.h"
 
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "styles/look_painters.h"
 #include "surface/canvas.h"
 

@@ -1,6 +1,6 @@
 // The Win3x frame: a one-pixel outline with cut-off corners, a ring around a default button and a
 // double-width raised bevel, or just a two-sided shadow when pressed. No focus rectangle.
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "styles/frame_rings.h"
 #include "styles/look_painters.h"
 #include "surface/canvas.h"

@@ -1,6 +1,6 @@
 // The Win9x frame: a two-pixel raised bevel, a black ring around a default button, a flat sunken
 // frame when pressed, and the focus rectangle inside whatever was drawn.
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "styles/frame_rings.h"
 #include "styles/look_painters.h"
 #include "surface/canvas.h"

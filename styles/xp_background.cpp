@@ -1,6 +1,6 @@
 // The Blue and Olive Green XP faces: a coloured ring that tells the state around a white-to-cream
 // face and foot, or a sunken shaded face when pressed.
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "styles/canvas_steps.h"
 #include "styles/look_painters.h"
 #include "styles/xp_disabled_face.h"

@@ -1,7 +1,7 @@
 // The XP frames: a dark one-pixel outline rounded by its softer corner pixels and the container's
 // colour at the extreme corners, pressed shading inside the corners, and the focus rectangle.
 // A disabled button keeps what its background drew.
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "styles/canvas_steps.h"
 #include "styles/look_painters.h"
 #include "styles/margins.h"

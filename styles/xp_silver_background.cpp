@@ -1,6 +1,6 @@
 // The Silver XP face: two gradients meeting at half height, a state ring around them, and one
 // darkening gradient when pressed.
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "styles/canvas_steps.h"
 #include "styles/look_painters.h"
 #include "styles/xp_disabled_face.h"

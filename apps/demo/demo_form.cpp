@@ -1,6 +1,6 @@
 #include "apps/demo/demo_form.h"
 
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "control/host/saved_form_bags.h"
 
 namespace glyphon::apps {

@@ -10,7 +10,7 @@
 
 #include "apps/demo/demo_script.h"
 #include "apps/demo/demo_session.h"
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "platform/automation_error.h"
 #include "platform/codec/png_codec.h"
 #include "tests/support/leak_check.h"

@@ -7,7 +7,7 @@
 #include "apps/glyphon/button_scene.h"
 #include "apps/glyphon/commands.h"
 #include "apps/glyphon/render_options.h"
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "control/host/property_bag_file.h"
 #include "platform/codec/png_codec.h"
 #include "tests/support/leak_check.h"

@@ -5,7 +5,7 @@
 
 #include "content/content_layout.h"
 #include "content/content_margins.h"
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 
 namespace glyphon {
 namespace {

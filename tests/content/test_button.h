@@ -8,7 +8,7 @@
 #include <string>
 
 #include "content/button_view.h"
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "surface/canvas.h"
 
 namespace glyphon::testing {

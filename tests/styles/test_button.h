@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "content/button_view.h"
-#include "control/glyphon_constants.h"
+#include "content/glyphon_constants.h"
 #include "platform/automation_error.h"
 #include "surface/canvas.h"
 
