@@ -3,6 +3,7 @@
 // A disabled button keeps what its background drew.
 #include "content/glyphon_constants.h"
 #include "styles/canvas_steps.h"
+#include "styles/xp_outline.h"
 #include "styles/look_painters.h"
 #include "styles/margins.h"
 #include "surface/canvas.h"
@@ -31,20 +32,6 @@ constexpr XPFrameColors kOliveGreen{win::RGB(49, 97, 0),      win::RGB(115, 138,
 
 constexpr win::COLORREF kWhite = win::RGB(255, 255, 255);
 constexpr win::COLORREF kBlack = win::RGB(0, 0, 0);
-
-void DrawRoundedOutline(Canvas& canvas, const ButtonView& button, const XPFrameColors& colors,
-                        int w, int h) {
-  canvas.DrawRect(0, 0, w, h, colors.edgeSoft);
-  canvas.DrawLine(2, 0, w - 2, 0, colors.edge);
-  canvas.DrawLine(0, 2, 0, h - 2, colors.edge);
-  canvas.DrawLine(w - 1, 2, w - 1, h - 2, colors.edge);
-  canvas.DrawLine(2, h - 1, w - 2, h - 1, colors.edge);
-  // The container's colour is asked for each corner, so each shows what the container is now.
-  DrawPixelAt(canvas, 0, 0, button.ContainerBackColor());
-  DrawPixelAt(canvas, w - 1, 0, button.ContainerBackColor());
-  DrawPixelAt(canvas, 0, h - 1, button.ContainerBackColor());
-  DrawPixelAt(canvas, w - 1, h - 1, button.ContainerBackColor());
-}
 
 void DrawSilverPressedHighlights(Canvas& canvas, int w, int h) {
   canvas.DrawLine(1, 1, 1, h - 3, kWhite);
@@ -87,7 +74,7 @@ void PaintXPFrame(Canvas& canvas, const ButtonView& button, std::int32_t drawSta
   const int w = area.width;
   const int h = area.height;
   if (drawState == DrawStateHot || drawState == DrawStateDown || drawState == DrawStateUp) {
-    DrawRoundedOutline(canvas, button, colors, w, h);
+    DrawXPRoundedOutline(canvas, button, w, h, colors.edgeSoft, colors.edge);
     area.Shrink(1);
   }
   if (drawState == DrawStateHot || drawState == DrawStateUp) {
