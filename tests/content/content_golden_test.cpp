@@ -6,7 +6,7 @@
 #include <string>
 
 #include "samples/sample_pictures.h"
-#include "tests/content/test_button.h"
+#include "tests/content/content_sheet.h"
 #include "tests/support/leak_check.h"
 #include "tests/support/pinned_font.h"
 

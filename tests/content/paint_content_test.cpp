@@ -4,7 +4,7 @@
 #include "content/paint_content.h"
 #include "content/picture_choice.h"
 #include "samples/sample_pictures.h"
-#include "tests/content/test_button.h"
+#include "tests/content/content_sheet.h"
 #include "tests/support/leak_check.h"
 #include "tests/support/pinned_font.h"
 

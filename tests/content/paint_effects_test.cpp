@@ -11,7 +11,7 @@
 #include "platform/automation_error.h"
 #include "platform/codec/picture_objects.h"
 #include "samples/sample_pictures.h"
-#include "tests/content/test_button.h"
+#include "tests/content/content_sheet.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon {

@@ -5,7 +5,7 @@
 #include "content/pixel_effects.h"
 #include "content/pixel_view.h"
 #include "surface/dib_section.h"
-#include "tests/content/test_button.h"
+#include "tests/content/content_sheet.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon {

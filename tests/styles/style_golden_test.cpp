@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/styles/test_button.h"
+#include "tests/support/test_button.h"
 #include "tests/support/image_compare.h"
 #include "tests/support/leak_check.h"
 

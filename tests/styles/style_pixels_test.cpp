@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "styles/style_painters.h"
-#include "tests/styles/test_button.h"
+#include "tests/support/test_button.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon::testing {
@@ -53,7 +53,7 @@ TEST(StylePixels, FlatLooksFillTheWholeFaceWithBackColor) {
     for (const std::int32_t state : kStates) {
       TestButton button = Button(style);
       button.SetBackColor(kPeach);
-      const auto canvas = MakeStyleCanvas(kW, kH, kMarker);
+      const auto canvas = MakeFilledCanvas(kW, kH, kMarker);
       PaintBackground(*canvas, button, state);
       int other = 0;
       for (int y = 0; y < kH; ++y) {
@@ -70,7 +70,7 @@ TEST(StylePixels, UnknownStylesPaintNothing) {
     TestButton button = Focused(Button(style));
     button.isDefault = true;
     const auto painted = PaintLook(button, kW, kH, DrawStateDown);
-    const auto untouched = MakeStyleCanvas(kW, kH, kMarker);
+    const auto untouched = MakeFilledCanvas(kW, kH, kMarker);
     EXPECT_TRUE(SameArea(DifferingArea(*painted, *untouched), {})) << "style " << style;
   }
 }
@@ -80,7 +80,7 @@ TEST(StylePixels, SuppressedRedrawDrawsNoFrame) {
   for (std::int32_t style = zonStyleWin9x; style <= zonStyleMac8x; ++style) {
     TestButton button = Focused(Button(style));
     button.isDefault = true;
-    const auto backgroundOnly = MakeStyleCanvas(kW, kH, kMarker);
+    const auto backgroundOnly = MakeFilledCanvas(kW, kH, kMarker);
     PaintBackground(*backgroundOnly, button, DrawStateDown);
     EXPECT_FALSE(SameArea(DifferingArea(*PaintLook(button, kW, kH, DrawStateDown),
                                         *backgroundOnly), {}));
@@ -167,7 +167,7 @@ TEST(StylePixels, MissingContainerEndsThePainterWhereItStands) {
   LeakCheck leaks;
   TestButton button = Button(zonStyleWinXPBlue);
   button.containerColors.clear();
-  const auto canvas = MakeStyleCanvas(kW, kH, kMarker);
+  const auto canvas = MakeFilledCanvas(kW, kH, kMarker);
   PaintBackground(*canvas, button, DrawStateUp);
   EXPECT_THROW(PaintFrame(*canvas, button, DrawStateUp), AutomationError);
   EXPECT_EQ(At(*canvas, 5, 0), win::RGB(0, 60, 115)) << "the outline before the corners stays";
@@ -336,7 +336,7 @@ TEST(StylePixels, FrameCoversTheContent) {
   LeakCheck leaks;
   for (std::int32_t style = zonStyleWin9x; style <= zonStyleMac8x; ++style) {
     const TestButton button = Button(style);
-    const auto canvas = MakeStyleCanvas(kW, kH, kWhite);
+    const auto canvas = MakeFilledCanvas(kW, kH, kWhite);
     PaintBackground(*canvas, button, DrawStateUp);
     canvas->FillRectangle(0, 0, kW, kH, kMarker);
     PaintFrame(*canvas, button, DrawStateUp);

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/codec/bitmap_png.h"
-#include "tests/styles/test_button.h"
+#include "tests/support/test_button.h"
 #include "tests/support/leak_check.h"
 #include "tests/windows/engine_parity.h"
 

@@ -1,32 +1,35 @@
-// A button view with plain fields, for painting content without a control, and a sheet that
-// lays rendered buttons out in a grid for one golden image.
+// A button for the painters without a control behind it: plain fields with the values a new
+// instance gets, and a container whose back colour can change between two reads or be missing.
 #pragma once
 
-#include <gtest/gtest.h>
-
+#include <cstddef>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "content/button_view.h"
 #include "content/glyphon_constants.h"
+#include "platform/automation_error.h"
 #include "surface/canvas.h"
 
 namespace glyphon::testing {
 
-// The control's defaults, with explicit colours.
+// The container of the golden images: far from every colour the looks paint with.
+inline constexpr win::COLORREF kContainerColor = win::RGB(0, 128, 128);
+
 struct TestButton final : ButtonView {
   std::int32_t style = zonStyleWin9x;
-  std::int32_t borderStyle = 0;
+  std::int32_t borderStyle = zonBorderNone;
   std::int32_t alignment = zonAlignCenter;
   std::int32_t pictureAlignment = zonPicAlignLeft;
   std::int32_t pictureSpacing = 5;
   std::int32_t pictureStyle = zonPicStyleNormal;
-  win::OLE_COLOR backColor = win::RGB(212, 208, 200);
-  win::OLE_COLOR foreColor = win::RGB(0, 0, 0);
-  win::OLE_COLOR highlightColor = win::RGB(255, 255, 255);
-  win::OLE_COLOR shadowColor = win::RGB(128, 128, 128);
-  win::OLE_COLOR borderColor = win::RGB(0, 0, 0);
-  win::OLE_COLOR disabledColor = win::RGB(128, 128, 128);
+  win::OLE_COLOR backColor = 0x8000000F;
+  win::OLE_COLOR foreColor = 0x80000012;
+  win::OLE_COLOR highlightColor = 0x80000014;
+  win::OLE_COLOR shadowColor = 0x80000010;
+  win::OLE_COLOR borderColor = 0x80000015;
+  win::OLE_COLOR disabledColor = 0x80000010;
   win::OLE_COLOR maskColor = win::RGB(0, 255, 255);
   bool enabled = true;
   bool isDefault = false;
@@ -42,9 +45,15 @@ struct TestButton final : ButtonView {
   StdPicture pictureDown;
   StdPicture pictureDisabled;
   bool hasFocus = false;
+  bool suppressRedraw = false;
   std::int32_t pushLook = 1;
   bool userMode = true;
+  // Read in turn, one entry per read, the last one repeating; empty means no container.
+  std::vector<win::OLE_COLOR> containerColors{kContainerColor};
+  mutable std::size_t containerReads = 0;
 
+  // BackColor with the frame colours a control derives from it.
+  void SetBackColor(win::OLE_COLOR color);
   // Sets the caption and its display form, as the control makes it.
   void SetCaption(const std::string& text);
 
@@ -75,31 +84,21 @@ struct TestButton final : ButtonView {
   const StdPicture& PictureDown() const override { return pictureDown; }
   const StdPicture& PictureDisabled() const override { return pictureDisabled; }
   bool HasFocus() const override { return hasFocus; }
-  bool SuppressRedraw() const override { return false; }
+  bool SuppressRedraw() const override { return suppressRedraw; }
   std::int32_t PushLook() const override { return pushLook; }
   bool UserMode() const override { return userMode; }
-  win::OLE_COLOR ContainerBackColor() const override { return backColor; }
+  win::OLE_COLOR ContainerBackColor() const override;
 };
 
-// A canvas of the button's size cleared to its BackColor, as the face before the content.
-std::unique_ptr<Canvas> FaceCanvas(const TestButton& button, int width, int height);
+// A canvas of the given size set up as a repaint sets it up, first filled with fill.
+std::unique_ptr<Canvas> MakeFilledCanvas(int width, int height, win::OLE_COLOR fill);
 
-// PaintContent on a fresh face canvas.
-std::unique_ptr<Canvas> RenderContent(const TestButton& button, int width, int height,
-                                      std::int32_t drawState);
+// Background and frame of the button, as a repaint without caption or picture paints them.
+std::unique_ptr<Canvas> PaintLook(const ButtonView& button, int width, int height,
+                                  std::int32_t drawState);
 
-// Cells of one size in a grid, one pixel of dark grey between them.
-class ButtonSheet {
- public:
-  ButtonSheet(int columns, int rows, int cellWidth, int cellHeight);
-  void Put(int column, int row, const Canvas& cell);
-  ::testing::AssertionResult Matches(const std::string& goldenName) const;
-  win::HDC Dc() const { return canvas_->hdc(); }
-
- private:
-  int cellWidth_;
-  int cellHeight_;
-  std::unique_ptr<Canvas> canvas_;
-};
+// The smallest rectangle (right and bottom exclusive) holding every pixel that differs between
+// two canvases of one size; empty (all zero) when they are equal.
+win::RECT DifferingArea(Canvas& a, Canvas& b);
 
 }  // namespace glyphon::testing

@@ -1,7 +1,8 @@
-#include "tests/styles/test_button.h"
+#include "tests/support/test_button.h"
 
 #include <algorithm>
 
+#include "control/access_key.h"
 #include "styles/style_painters.h"
 #include "surface/mod_colors.h"
 
@@ -18,6 +19,11 @@ void TestButton::SetBackColor(win::OLE_COLOR color) {
   highlightColor = highlight;
 }
 
+void TestButton::SetCaption(const std::string& text) {
+  caption = text;
+  displayCaption = ParseAccessKey(text).displayCaption;
+}
+
 win::OLE_COLOR TestButton::ContainerBackColor() const {
   if (containerColors.empty()) {
     throw AutomationError(kControlErrorNumber, "Container", "Object required");
@@ -26,7 +32,7 @@ win::OLE_COLOR TestButton::ContainerBackColor() const {
   return containerColors[read];
 }
 
-std::unique_ptr<Canvas> MakeStyleCanvas(int width, int height, win::COLORREF fill) {
+std::unique_ptr<Canvas> MakeFilledCanvas(int width, int height, win::OLE_COLOR fill) {
   auto canvas = std::make_unique<Canvas>();
   canvas->CreatehDC();
   canvas->InitProperties();
@@ -40,7 +46,7 @@ std::unique_ptr<Canvas> MakeStyleCanvas(int width, int height, win::COLORREF fil
 
 std::unique_ptr<Canvas> PaintLook(const ButtonView& button, int width, int height,
                                   std::int32_t drawState) {
-  auto canvas = MakeStyleCanvas(width, height, win::RGB(255, 0, 255));
+  auto canvas = MakeFilledCanvas(width, height, win::RGB(255, 0, 255));
   PaintBackground(*canvas, button, drawState);
   PaintFrame(*canvas, button, drawState);
   return canvas;
