@@ -2,17 +2,18 @@
 
 #include "content/glyphon_constants.h"
 #include "control/host/saved_form_bags.h"
+#include "samples/sample_pictures.h"
 
 namespace glyphon::apps {
 
 namespace {
 
 constexpr int kButtonWidth = 120;
-constexpr int kButtonHeight = 32;
+constexpr int kButtonHeight = 40;
 constexpr int kLeft = 16;
 constexpr int kTop = 16;
 constexpr int kStepX = 134;
-constexpr int kStepY = 48;
+constexpr int kStepY = 56;
 
 FormOptions DemoFormOptions() {
   FormOptions options;
@@ -39,6 +40,11 @@ struct DozenEntry {
   void (*extra)(Glyphon&);
 };
 
+Glyphon& WithPicture(Glyphon& button, samples::SamplePicture picture) {
+  button.SetPicture(samples::MakeSamplePicture(picture));
+  return button;
+}
+
 const DozenEntry kDozen[] = {
     {"cmdOK", "&OK", zonStyleWin9x, nullptr},
     {"cmdWin3x", "Windows 3.&x", zonStyleWin3x, nullptr},
@@ -46,15 +52,25 @@ const DozenEntry kDozen[] = {
     {"cmdOlive", "Olive &Green", zonStyleWinXPOliveGreen, nullptr},
     {"cmdSilver", "&Silver", zonStyleWinXPSilver, nullptr},
     {"cmdMac", "&Mac OS 8", zonStyleMac8x, nullptr},
-    {"cmdDisabled", "Disabled", zonStyleWin9x, [](Glyphon& b) { b.SetEnabled(false); }},
+    {"cmdDisabled", "Disabled", zonStyleWin9x,
+     [](Glyphon& b) { WithPicture(b, samples::SamplePicture::Folder16).SetEnabled(false); }},
     {"cmdTip", "&Hover me", zonStyleWinXPBlue,
      [](Glyphon& b) { b.SetToolTipText("A Glyphon button with a tooltip"); }},
-    {"cmdAccess", "&Alt+A clicks me", zonStyleWin9x, nullptr},
-    {"cmdWrap", "A long caption that wraps", zonStyleWinXPSilver, nullptr},
-    {"cmdNoFocus", "&Keeps no focus", zonStyleWinXPOliveGreen,
-     [](Glyphon& b) { b.SetStealFocus(false); }},
-    {"cmdRight", "Right &aligned", zonStyleWin3x,
-     [](Glyphon& b) { b.SetAlignment(zonAlignRight); }},
+    {"cmdOpen", "O&pen", zonStyleWinXPBlue,
+     [](Glyphon& b) { WithPicture(b, samples::SamplePicture::Folder16); }},
+    {"cmdPopup", "Pop&up", zonStyleWin9x,
+     [](Glyphon& b) {
+       WithPicture(b, samples::SamplePicture::Check16).SetPictureStyle(zonPicStylePopup);
+       b.SetDropShadow(true);
+     }},
+    {"cmdActive", "A&ctive", zonStyleWinXPSilver,
+     [](Glyphon& b) {
+       WithPicture(b, samples::SamplePicture::Globe32Icon).SetPictureStyle(zonPicStyleActive);
+     }},
+    {"cmdStop", "S&top", zonStyleMac8x,
+     [](Glyphon& b) {
+       WithPicture(b, samples::SamplePicture::Stop16Icon).SetPictureAlignment(zonPicAlignRight);
+     }},
 };
 
 }  // namespace

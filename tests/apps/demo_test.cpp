@@ -42,7 +42,13 @@ TEST(DemoFormTest, ADozenButtonsShowEveryStyleAndFeature) {
   std::set<std::string> names;
   int disabled = 0;
   int withTip = 0;
+  int withPicture = 0;
+  std::set<std::int32_t> pictureStyles;
   for (const DemoButton& entry : form.Buttons()) {
+    if (entry.button->Picture().Handle() != 0) {
+      ++withPicture;
+      pictureStyles.insert(entry.button->PictureStyle());
+    }
     styles.insert(entry.button->Style());
     names.insert(entry.site->Name());
     disabled += entry.button->Enabled() ? 0 : 1;
@@ -52,6 +58,8 @@ TEST(DemoFormTest, ADozenButtonsShowEveryStyleAndFeature) {
   EXPECT_EQ(names.size(), 12u) << "names are unique";
   EXPECT_EQ(disabled, 1);
   EXPECT_EQ(withTip, 1);
+  EXPECT_GE(withPicture, 4);
+  EXPECT_GE(pictureStyles.size(), 3u) << "pictures with effects";
   ASSERT_NE(form.Host().DefaultSite(), nullptr);
   EXPECT_TRUE(form.Find(form.Host().DefaultSite()->Name())->button->Default());
 }
@@ -153,7 +161,7 @@ TEST(DemoWindowTest, AClickedButtonLooksAsTheRendererPaintsIt) {
   EXPECT_NE(events.str().find("cmdOK: Click"), std::string::npos) << events.str();
 
   const std::string render = program +
-                             " render --size 120x32 --set \"Caption=&OK\" --state hot --focus " +
+                             " render --size 120x40 --set \"Caption=&OK\" --state hot --focus " +
                              (folder / "rendered.png").string() + " >/dev/null";
   ASSERT_EQ(std::system(render.c_str()), 0);
   const auto shot = ReadPngFile(folder / "glyphon-demo-1.png");

@@ -24,7 +24,7 @@ window=$(wait_for xdotool search --onlyvisible --name "Glyphon demo" | head -n 1
 # Without a window manager nothing raises the window: give it time to show its first frame, and
 # come into it from outside so that it sees the pointer enter.
 sleep 1
-# The form is drawn 8 pixels in; the OK button is at (16, 16) on the form, 120 by 32.
+# The form is drawn 8 pixels in; the OK button is at (16, 16) on the form, 120 by 40.
 xdotool mousemove 0 0
 sleep 0.2
 xdotool mousemove --window "$window" 84 40
