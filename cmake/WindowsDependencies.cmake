@@ -5,6 +5,8 @@
 #   GLYPHON_LIBPNG_SOURCE_DIR.
 # FreeType and fontconfig are not used on Windows: see the soft engine's text note in README.md.
 
+# The static library, so the programs and the DLL need no zlib1.dll beside them.
+set(ZLIB_USE_STATIC_LIBS ON)
 find_package(ZLIB REQUIRED)
 # nlohmann/json is header-only, so the host's copy serves the cross build; but only its own
 # folder may be on the include path (not /usr/include, which holds the host's C library), so the

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "control/host/input_messages.h"
 #include "control/host/memory_host.h"
 
 namespace glyphon {
@@ -12,14 +13,6 @@ namespace {
 
 constexpr win::LPCSTR kFormClass = "GlyphonMemoryForm";
 constexpr win::LPCSTR kControlClass = "GlyphonMemoryControl";
-
-// Event values of the mouse buttons and of the shift keys.
-constexpr std::int16_t kLeft = 1;
-constexpr std::int16_t kRight = 2;
-constexpr std::int16_t kMiddle = 4;
-constexpr std::int16_t kShift = 1;
-constexpr std::int16_t kControl = 2;
-constexpr std::int16_t kAlt = 4;
 
 using Registry = std::vector<std::pair<win::HWND, MemoryHost*>>;
 
@@ -62,26 +55,6 @@ void RegisterWindowClass(win::LPCSTR name, win::WNDPROC procedure, win::UINT sty
   win::RegisterClassA(&windowClass);
 }
 
-bool KeyHeld(int virtualKey) { return win::GetKeyState(virtualKey) < 0; }
-
-std::int16_t AltState() { return KeyHeld(win::VK_MENU) ? kAlt : std::int16_t{0}; }
-
-std::int16_t MouseShift(win::WPARAM wParam) {
-  return static_cast<std::int16_t>(((wParam & win::MK_SHIFT) != 0 ? kShift : 0) |
-                                   ((wParam & win::MK_CONTROL) != 0 ? kControl : 0) | AltState());
-}
-
-std::int16_t MouseButtons(win::WPARAM wParam) {
-  return static_cast<std::int16_t>(((wParam & win::MK_LBUTTON) != 0 ? kLeft : 0) |
-                                   ((wParam & win::MK_RBUTTON) != 0 ? kRight : 0) |
-                                   ((wParam & win::MK_MBUTTON) != 0 ? kMiddle : 0));
-}
-
-std::int16_t KeyShift() {
-  return static_cast<std::int16_t>((KeyHeld(win::VK_SHIFT) ? kShift : 0) |
-                                   (KeyHeld(win::VK_CONTROL) ? kControl : 0) | AltState());
-}
-
 }  // namespace
 
 win::HWND CreateFormWindow(int width, int height) {
@@ -108,68 +81,12 @@ void UnregisterHostWindows(win::HWND form, win::HWND control) {
   });
 }
 
-// A form host's translation of the control window's messages into notifications. Clicking with
-// the left button gives the control window the focus first, as a form does.
+// The form turns Alt+key into the control's access keys; the rest is a form host's usual
+// translation.
 bool MemoryHost::HandleControlMessage(win::UINT message, win::WPARAM wParam, win::LPARAM lParam) {
   if (control_ == nullptr) return false;
-  const float x = win::GET_X_LPARAM(lParam);
-  const float y = win::GET_Y_LPARAM(lParam);
-  switch (message) {
-    case win::WM_MOUSEMOVE:
-      control_->MouseMove(MouseButtons(wParam), MouseShift(wParam), x, y);
-      return true;
-    case win::WM_LBUTTONDOWN:
-      if (win::GetFocus() != window_) win::SetFocus(window_);
-      control_->MouseDown(kLeft, MouseShift(wParam), x, y);
-      return true;
-    case win::WM_RBUTTONDOWN:
-    case win::WM_RBUTTONDBLCLK:
-      control_->MouseDown(kRight, MouseShift(wParam), x, y);
-      return true;
-    case win::WM_MBUTTONDOWN:
-    case win::WM_MBUTTONDBLCLK:
-      control_->MouseDown(kMiddle, MouseShift(wParam), x, y);
-      return true;
-    case win::WM_LBUTTONUP:
-      control_->MouseUp(kLeft, MouseShift(wParam), x, y);
-      return true;
-    case win::WM_RBUTTONUP:
-      control_->MouseUp(kRight, MouseShift(wParam), x, y);
-      return true;
-    case win::WM_MBUTTONUP:
-      control_->MouseUp(kMiddle, MouseShift(wParam), x, y);
-      return true;
-    case win::WM_LBUTTONDBLCLK:
-      // The second press of a double click is reported as the double click itself.
-      control_->DblClick();
-      return true;
-    case win::WM_KEYDOWN:
-      control_->KeyDown(static_cast<std::int16_t>(wParam), KeyShift());
-      return true;
-    case win::WM_KEYUP:
-      control_->KeyUp(static_cast<std::int16_t>(wParam), KeyShift());
-      return true;
-    case win::WM_CHAR:
-      control_->KeyPress(static_cast<std::int16_t>(wParam));
-      return true;
-    case win::WM_SYSCHAR:
-      return PressAccessKey(static_cast<char>(wParam));
-    case win::WM_SETFOCUS:
-      control_->EnterFocus();
-      return true;
-    case win::WM_KILLFOCUS:
-      control_->ExitFocus();
-      return true;
-    case win::WM_PAINT: {
-      win::PAINTSTRUCT paint{};
-      win::BeginPaint(window_, &paint);
-      win::EndPaint(window_, &paint);
-      control_->Paint();
-      return true;
-    }
-    default:
-      return false;
-  }
+  if (message == win::WM_SYSCHAR) return PressAccessKey(static_cast<char>(wParam));
+  return DeliverControlMessage(*control_, window_, message, wParam, lParam);
 }
 
 }  // namespace glyphon
