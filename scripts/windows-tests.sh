@@ -21,11 +21,14 @@ if ! scripts/install-deps.sh "${packages[@]}"; then
   exit 0
 fi
 
-# libpng for MinGW: Debian packages none, so its Debian source package is built with the rest.
+# libpng and Google Benchmark for MinGW: Debian packages neither, so their Debian source packages
+# are built with the rest.
 deps=build/windows-deps
-if [ ! -f "$deps/libpng/png.h" ]; then
-  echo "== fetching the libpng sources"
-  apt_dir="$PWD/$deps/apt"
+fetch_source() {  # fetch_source SOURCE-PACKAGE FOLDER CHECK-FILE
+  local package=$1 folder=$deps/$2 check=$3
+  [ -f "$folder/$check" ] && return 0
+  echo "== fetching the $package sources"
+  local apt_dir="$PWD/$deps/apt"
   mkdir -p "$apt_dir/lists/partial" "$apt_dir/sources"
   cat >"$apt_dir/sources/debian-src.sources" <<'SOURCES'
 Types: deb-src
@@ -34,15 +37,16 @@ Suites: bookworm
 Components: main
 Signed-By: /usr/share/keyrings/debian-archive-keyring.gpg
 SOURCES
-  apt_options=(-o Dir::Etc::SourceList=/dev/null -o Dir::Etc::SourceParts="$apt_dir/sources"
-               -o Dir::State::Lists="$apt_dir/lists")
+  local apt_options=(-o Dir::Etc::SourceList=/dev/null -o Dir::Etc::SourceParts="$apt_dir/sources"
+                     -o Dir::State::Lists="$apt_dir/lists")
   apt-get "${apt_options[@]}" update -qq
   rm -rf "$apt_dir/source" && mkdir -p "$apt_dir/source"
-  (cd "$apt_dir/source" && apt-get "${apt_options[@]}" source -qq libpng1.6 >/dev/null 2>&1)
-  rm -rf "$deps/libpng"
-  mv "$(find "$apt_dir/source" -mindepth 1 -maxdepth 1 -type d -name 'libpng*' | head -n 1)" \
-     "$deps/libpng"
-fi
+  (cd "$apt_dir/source" && apt-get "${apt_options[@]}" source -qq "$package" >/dev/null 2>&1)
+  rm -rf "$folder"
+  mv "$(find "$apt_dir/source" -mindepth 1 -maxdepth 1 -type d | head -n 1)" "$folder"
+}
+fetch_source libpng1.6 libpng png.h
+fetch_source benchmark benchmark CMakeLists.txt
 
 echo "== cross-building (windows-x64)"
 cmake --preset windows-x64 >/dev/null
