@@ -8,16 +8,14 @@
 #include "activex/guids.h"
 #include "activex/module.h"
 #include "activex/type_library.h"
-#include "control/host/input_messages.h"
 
 namespace glyphon::activex {
 
 namespace {
 
-// The size of a new button: 81 by 25 pixels at 96 pixels per inch, in HiMetric.
+// The size of a new button (its window starts at 81 by 25 pixels) at 96 pixels per inch, in
+// HiMetric.
 constexpr SIZEL kDefaultExtent{2143, 661};
-constexpr int kDefaultWidthPixels = 81;
-constexpr int kDefaultHeightPixels = 25;
 
 template <class Interface>
 HRESULT Give(Interface* given, void** object) {
@@ -38,24 +36,23 @@ HRESULT CreateGlyphonObject(REFIID id, void** object) {
 }
 
 GlyphonObject::GlyphonObject()
-    : window_(CreateControlWindow(*this)),
-      events_(*this, kGlyphonEventsId),
+    : events_(*this, kGlyphonEventsId),
       propertyNotify_(*this, IID_IPropertyNotifySink),
-      site_(window_, events_,
+      site_(parking_.Window(), events_,
             SiteAdapter::Notifications{[this](std::string_view name) { OnPropertyChanged(name); },
-                                       [this] { OnAccessKeysChanged(); }}),
+                                       [this] { OnAccessKeysChanged(); },
+                                       [this](bool focused) { OnFocusChanged(focused); }}),
       control_(std::make_unique<Glyphon>(site_)),
       extent_(kDefaultExtent) {
-  SetWindowPos(window_, nullptr, 0, 0, kDefaultWidthPixels, kDefaultHeightPixels,
-               SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOMOVE);
+  site_.Attach(control_.get());
   LockModule();
 }
 
 GlyphonObject::~GlyphonObject() {
+  site_.Attach(nullptr);
   control_->Terminate();
   control_.reset();
   if (accelerators_ != nullptr) DestroyAcceleratorTable(accelerators_);
-  DestroyControlWindow(window_);
   UnlockModule();
 }
 
@@ -154,36 +151,7 @@ STDMETHODIMP GlyphonObject::GetPages(CAUUID* pages) {
   return S_OK;
 }
 
-// ---- The window and what the control tells its container ---------------------------------------
-
-LRESULT GlyphonObject::OnWindowMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  switch (message) {
-    case WM_SIZE:
-      control_->Resize();
-      return 0;
-    case WM_SETFOCUS:
-      ActivateUserInterface();
-      if (IOleControlSite* controlSite = site_.ControlSiteObject()) controlSite->OnFocus(TRUE);
-      break;
-    case WM_KILLFOCUS:
-      if (IOleControlSite* controlSite = site_.ControlSiteObject()) controlSite->OnFocus(FALSE);
-      break;
-    case WM_SYSCHAR:
-      // Alt with one of the control's keys while it has the focus: the container never sees it.
-      if (IsAccessKey(static_cast<char>(wParam))) {
-        PressAccessKey(static_cast<char>(wParam));
-        return 0;
-      }
-      break;
-    default:
-      break;
-  }
-  if (DeliverControlMessage(*control_, reinterpret_cast<win::HWND>(window), message, wParam,
-                            lParam)) {
-    return 0;
-  }
-  return DefWindowProcA(window, message, wParam, lParam);
-}
+// ---- What the control tells its container ------------------------------------------------------
 
 void GlyphonObject::OnPropertyChanged(std::string_view name) {
   dirty_ = true;
@@ -198,6 +166,14 @@ void GlyphonObject::OnPropertyChanged(std::string_view name) {
 void GlyphonObject::OnAccessKeysChanged() {
   if (IOleControlSite* controlSite = site_.ControlSiteObject()) {
     controlSite->OnControlInfoChanged();
+  }
+}
+
+// Taking the focus (by a click, Tab or an access key) makes the control the active one.
+void GlyphonObject::OnFocusChanged(bool focused) {
+  if (focused) ActivateUserInterface();
+  if (IOleControlSite* controlSite = site_.ControlSiteObject()) {
+    controlSite->OnFocus(focused ? TRUE : FALSE);
   }
 }
 

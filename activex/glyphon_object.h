@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "activex/connection_point.h"
-#include "activex/control_window.h"
+#include "activex/parking_window.h"
 #include "activex/site_adapter.h"
 #include "activex/windows_api.h"
 
@@ -26,11 +26,10 @@ class GlyphonObject final : public IDispatch,
                             public IOleControl,
                             public IViewObject2,
                             public ISupportErrorInfo,
-                            public ISpecifyPropertyPages,
-                            private ControlWindowHandler {
+                            public ISpecifyPropertyPages {
  public:
   GlyphonObject();
-  ~GlyphonObject() override;
+  ~GlyphonObject();
   GlyphonObject(const GlyphonObject&) = delete;
   GlyphonObject& operator=(const GlyphonObject&) = delete;
 
@@ -127,26 +126,24 @@ class GlyphonObject final : public IDispatch,
   STDMETHODIMP GetPages(CAUUID* pages) override;
 
  private:
-  LRESULT OnWindowMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
-
   // Persistence: a second load or a load after InitNew is refused, as containers expect.
   HRESULT LoadFrom(PropertyBag& bag);
   void OnPropertyChanged(std::string_view name);
   void OnAccessKeysChanged();
+  void OnFocusChanged(bool focused);
 
   // Activation, focus and access keys.
   HRESULT ActivateInPlace(bool uiActivate);
   void ActivateUserInterface();
-  void ResizeWindow(const RECT& position);
-  bool IsAccessKey(char key) const;
-  void PressAccessKey(char key);
+  // Moves the window in its parent and tells the control its new size.
+  void PlaceWindow(const RECT& position);
 
   // Late binding.
   HRESULT InvokeMember(const MemberInfo& member, WORD flags, DISPPARAMS& parameters,
                        VARIANT* result, UINT* argumentError);
 
   ULONG references_ = 1;
-  HWND window_;
+  ParkingLease parking_;
   ConnectionPoint events_;
   ConnectionPoint propertyNotify_;
   SiteAdapter site_;

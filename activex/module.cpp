@@ -4,7 +4,9 @@
 
 #include "activex/class_factory.h"
 #include "activex/guids.h"
+#include "activex/parking_window.h"
 #include "activex/type_library.h"
+#include "control/host/host_windows.h"
 #include "platform/native/native_engine.h"
 
 namespace glyphon::activex {
@@ -59,5 +61,7 @@ extern "C" HRESULT __stdcall DllGetClassObject(REFCLSID classId, REFIID interfac
 extern "C" HRESULT __stdcall DllCanUnloadNow() {
   if (ModuleInUse()) return S_FALSE;
   ReleaseTypeLibrary();
+  UnregisterParkingWindowClass();
+  glyphon::UnregisterHostWindowClasses();
   return S_OK;
 }

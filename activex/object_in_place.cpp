@@ -1,10 +1,8 @@
 // In-place activation in the container's window, focus, and IOleControl: control information
 // (the access keys as accelerators), mnemonics and ambient changes.
-#include <cctype>
 #include <vector>
 
 #include "activex/com_error.h"
-#include "activex/control_window.h"
 #include "activex/glyphon_object.h"
 
 namespace glyphon::activex {
@@ -25,10 +23,6 @@ std::string_view AmbientName(DISPID id) {
     default:
       return {};
   }
-}
-
-char Upper(char key) {
-  return static_cast<char>(std::toupper(static_cast<unsigned char>(key)));
 }
 
 // The character a mnemonic message carries: WM_SYSCHAR holds it, WM_SYSKEYDOWN a virtual key.
@@ -62,13 +56,13 @@ HRESULT GlyphonObject::ActivateInPlace(bool uiActivate) {
     frameInfo.cb = sizeof frameInfo;
     ThrowIfFailed(inPlaceSite_->GetWindowContext(frame.GetAddressOf(), document.GetAddressOf(),
                                                  &position, &clip, &frameInfo));
-    SetParent(window_, parent);
-    ResizeWindow(position);
-    ShowWindow(window_, SW_SHOWNA);
+    SetParent(site_.Window(), parent);
+    PlaceWindow(position);
+    ShowWindow(site_.Window(), SW_SHOWNA);
   }
   if (uiActivate) {
     ActivateUserInterface();
-    if (GetFocus() != window_) SetFocus(window_);
+    if (GetFocus() != site_.Window()) SetFocus(site_.Window());
   }
   return S_OK;
 }
@@ -79,14 +73,15 @@ void GlyphonObject::ActivateUserInterface() {
   inPlaceSite_->OnUIActivate();
 }
 
-void GlyphonObject::ResizeWindow(const RECT& position) {
-  MoveWindow(window_, position.left, position.top, position.right - position.left,
-             position.bottom - position.top, TRUE);
+void GlyphonObject::PlaceWindow(const RECT& position) {
+  MoveWindow(site_.Window(), position.left, position.top, position.right - position.left,
+             position.bottom - position.top, FALSE);
+  control_->Resize();
 }
 
 STDMETHODIMP GlyphonObject::GetWindow(HWND* window) {
   if (window == nullptr) return E_POINTER;
-  *window = window_;
+  *window = site_.Window();
   return S_OK;
 }
 
@@ -96,7 +91,7 @@ STDMETHODIMP GlyphonObject::InPlaceDeactivate() {
   if (!inPlaceActive_) return S_OK;
   UIDeactivate();
   inPlaceActive_ = false;
-  ParkControlWindow(window_);
+  parking_.Park(site_.Window());
   inPlaceSite_->OnInPlaceDeactivate();
   inPlaceSite_.Reset();
   return S_OK;
@@ -111,7 +106,7 @@ STDMETHODIMP GlyphonObject::UIDeactivate() {
 
 STDMETHODIMP GlyphonObject::SetObjectRects(LPCRECT position, LPCRECT /*clip*/) {
   if (position == nullptr) return E_POINTER;
-  ResizeWindow(*position);
+  PlaceWindow(*position);
   return S_OK;
 }
 
@@ -132,19 +127,6 @@ STDMETHODIMP GlyphonObject::ResizeBorder(LPCRECT /*border*/, IOleInPlaceUIWindow
 STDMETHODIMP GlyphonObject::EnableModeless(BOOL /*enable*/) { return S_OK; }
 
 // ---- IOleControl --------------------------------------------------------------------------------
-
-bool GlyphonObject::IsAccessKey(char key) const {
-  for (const char accessKey : site_.AccessKeys()) {
-    if (Upper(accessKey) == Upper(key)) return true;
-  }
-  return false;
-}
-
-void GlyphonObject::PressAccessKey(char key) {
-  if (!site_.Enabled()) return;
-  if (GetFocus() != window_) SetFocus(window_);
-  control_->AccessKeyPress(static_cast<std::int16_t>(static_cast<unsigned char>(key)));
-}
 
 // Each access key is Alt with the key's own virtual key, which for letters and digits is the
 // upper-case character.
@@ -172,10 +154,7 @@ STDMETHODIMP GlyphonObject::GetControlInfo(CONTROLINFO* info) {
 
 STDMETHODIMP GlyphonObject::OnMnemonic(LPMSG message) {
   if (message == nullptr) return E_POINTER;
-  const char key = MnemonicCharacter(*message);
-  if (!IsAccessKey(key)) return S_FALSE;
-  PressAccessKey(key);
-  return S_OK;
+  return site_.PressAccessKey(MnemonicCharacter(*message)) ? S_OK : S_FALSE;
 }
 
 STDMETHODIMP GlyphonObject::OnAmbientPropertyChange(DISPID id) {

@@ -61,7 +61,7 @@ STDMETHODIMP GlyphonObject::DoVerb(LONG verb, LPMSG /*message*/, IOleClientSite*
       case OLEIVERB_INPLACEACTIVATE:
         return ActivateInPlace(false);
       case OLEIVERB_HIDE:
-        ShowWindow(window_, SW_HIDE);
+        ShowWindow(site_.Window(), SW_HIDE);
         return S_OK;
       default:
         return static_cast<HRESULT>(OLEOBJ_S_INVALIDVERB);
@@ -93,8 +93,7 @@ STDMETHODIMP GlyphonObject::SetExtent(DWORD aspect, SIZEL* size) {
     const int width = MulDiv(size->cx, GetDeviceCaps(screen, LOGPIXELSX), 2540);
     const int height = MulDiv(size->cy, GetDeviceCaps(screen, LOGPIXELSY), 2540);
     ReleaseDC(nullptr, screen);
-    SetWindowPos(window_, nullptr, 0, 0, width, height,
-                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOMOVE);
+    PlaceWindow(RECT{0, 0, width, height});
   }
   return S_OK;
 }

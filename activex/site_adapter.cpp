@@ -4,9 +4,8 @@
 
 namespace glyphon::activex {
 
-SiteAdapter::SiteAdapter(HWND window, const ConnectionPoint& events, Notifications notifications)
-    : window_(window),
-      windowDc_(GetDC(window)),
+SiteAdapter::SiteAdapter(HWND parent, const ConnectionPoint& events, Notifications notifications)
+    : WindowSite(reinterpret_cast<win::HWND>(parent), SiteRect{0, 0, 81, 25}, false),
       notifications_(std::move(notifications)),
       events_(events) {}
 
@@ -29,16 +28,14 @@ void SiteAdapter::RedirectDrawing(HDC hdc, int width, int height) {
 
 void SiteAdapter::StopRedirect() { redirectDc_ = nullptr; }
 
-win::HWND SiteAdapter::hWnd() const { return reinterpret_cast<win::HWND>(window_); }
-
 win::HDC SiteAdapter::hDC() const {
-  return reinterpret_cast<win::HDC>(redirectDc_ != nullptr ? redirectDc_ : windowDc_);
+  return redirectDc_ != nullptr ? reinterpret_cast<win::HDC>(redirectDc_) : WindowSite::hDC();
 }
 
 SIZE SiteAdapter::ClientSize() const {
   if (redirectDc_ != nullptr) return redirectSize_;
   RECT client{};
-  GetClientRect(window_, &client);
+  GetClientRect(Window(), &client);
   return SIZE{client.right - client.left, client.bottom - client.top};
 }
 
@@ -46,18 +43,17 @@ double SiteAdapter::ScaleWidth() const { return ClientSize().cx; }
 
 double SiteAdapter::ScaleHeight() const { return ClientSize().cy; }
 
-void SiteAdapter::SetEnabled(bool enabled) {
-  enabled_ = enabled;
-  EnableWindow(window_, enabled ? TRUE : FALSE);
-}
-
 void SiteAdapter::PropertyChanged(std::string_view name) {
   if (notifications_.propertyChanged) notifications_.propertyChanged(name);
 }
 
 void SiteAdapter::SetAccessKeys(std::string_view keys) {
-  accessKeys_ = std::string(keys);
+  WindowSite::SetAccessKeys(keys);
   if (notifications_.accessKeysChanged) notifications_.accessKeysChanged();
+}
+
+void SiteAdapter::OnFocusChanged() {
+  if (notifications_.focusChanged) notifications_.focusChanged(GetFocus() == Window());
 }
 
 // The extender is asked for when first needed: a container may make it only once the control

@@ -1,71 +1,61 @@
 // The control's container as the control sees it (ControlSite), made of the COM container's
-// parts: the control's window and its device context, the delegated properties (kept here, as a
-// container keeps them for its controls), ambient properties from the client site, the
-// extender from the control site, and the events raised to the connection point.
+// parts. The window, its messages and the delegated properties are a form host's usual ones
+// (WindowSite); ambient properties come from the client site, the extender from the control
+// site, and events go to the events connection point.
 #pragma once
 
 #include <functional>
-#include <string>
 
 #include "activex/connection_point.h"
 #include "activex/container_dispatch.h"
 #include "activex/event_raiser.h"
 #include "activex/windows_api.h"
+#include "control/host/window_site.h"
 
 namespace glyphon::activex {
 
-class SiteAdapter final : public ControlSite {
+class SiteAdapter final : public WindowSite {
  public:
   struct Notifications {
     // A persisted property changed (by its name).
     std::function<void(std::string_view)> propertyChanged;
     // The control's access keys changed.
     std::function<void()> accessKeysChanged;
+    // The control's window gained or lost the focus.
+    std::function<void(bool)> focusChanged;
   };
 
-  SiteAdapter(HWND window, const ConnectionPoint& events, Notifications notifications);
-  SiteAdapter(const SiteAdapter&) = delete;
-  SiteAdapter& operator=(const SiteAdapter&) = delete;
+  // The window starts as a child of parent (the parking window).
+  SiteAdapter(HWND parent, const ConnectionPoint& events, Notifications notifications);
+
+  HWND Window() const { return reinterpret_cast<HWND>(hWnd()); }
 
   // Null detaches from the container.
   void AttachClientSite(IOleClientSite* site);
   IOleClientSite* ClientSite() const { return clientSite_.Get(); }
   IOleControlSite* ControlSiteObject() const { return controlSite_.Get(); }
-  const std::string& AccessKeys() const { return accessKeys_; }
 
   // Until StopRedirect, the control paints into hdc, of that size, instead of its window.
   void RedirectDrawing(HDC hdc, int width, int height);
   void StopRedirect();
 
   // ---- ControlSite ----
-  win::HWND hWnd() const override;
   win::HDC hDC() const override;
+  // The window's client size as the container placed it.
   double ScaleWidth() const override;
   double ScaleHeight() const override;
-  bool Enabled() const override { return enabled_; }
-  void SetEnabled(bool enabled) override;
-  std::optional<StdFont> Font() const override { return font_; }
-  void SetFont(const StdFont& font) override { font_ = font; }
-  StdPicture MouseIcon() const override { return mouseIcon_; }
-  void SetMouseIcon(const StdPicture& icon) override { mouseIcon_ = icon; }
-  std::int16_t MousePointer() const override { return mousePointer_; }
-  void SetMousePointer(std::int16_t pointer) override { mousePointer_ = pointer; }
-  bool RightToLeft() const override { return rightToLeft_; }
-  void SetRightToLeft(bool rightToLeft) override { rightToLeft_ = rightToLeft; }
-  std::string Tag() const override { return tag_; }
-  void SetTag(std::string_view tag) override { tag_ = std::string(tag); }
   void PropertyChanged(std::string_view name) override;
   void SetAccessKeys(std::string_view keys) override;
   const AmbientProperties& Ambient() const override { return ambient_; }
   Extender* GetExtender() override;
   GlyphonEvents& Events() override { return events_; }
 
+ protected:
+  void OnFocusChanged() override;
+
  private:
   SIZE ClientSize() const;
 
-  HWND window_;
-  // The window's class gives it a device context of its own for its whole life.
-  HDC windowDc_;
   HDC redirectDc_ = nullptr;
   SIZE redirectSize_{};
   Notifications notifications_;
@@ -75,14 +65,6 @@ class SiteAdapter final : public ControlSite {
   AmbientDispatch ambient_;
   ExtenderDispatch extender_;
   EventRaiser events_;
-
-  bool enabled_ = true;
-  std::optional<StdFont> font_;
-  StdPicture mouseIcon_;
-  std::int16_t mousePointer_ = 0;
-  bool rightToLeft_ = false;
-  std::string tag_;
-  std::string accessKeys_;
 };
 
 }  // namespace glyphon::activex

@@ -7,6 +7,7 @@
 #include "control/host/memory_host.h"
 #include "control/host/memory_property_bag.h"
 #include "control/host/property_bag_file.h"
+#include "control/host/saved_form_bags.h"
 #include "platform/soft/soft_engine.h"
 
 namespace {
@@ -37,8 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Glyphon button(host);
     host.Attach(&button);
     for (const SavedControl& control : read.form.controls) {
-      MemoryPropertyBag bag;
-      for (const SavedEntry& entry : control.properties) bag.Store(entry.key, entry.value);
+      MemoryPropertyBag bag = BagOfEntries(control.properties);
       button.ReadProperties(bag);
       MemoryPropertyBag saved;
       button.WriteProperties(saved);

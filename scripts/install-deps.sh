@@ -8,6 +8,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   libpng-dev libfreetype-dev libfontconfig-dev fonts-dejavu-core
   nlohmann-json3-dev
+  libsdl2-dev libimgui-dev libgl-dev xvfb xauth xdotool
   fonts-liberation2 fonts-wqy-microhei
   clang libclang-rt-14-dev
   "$@"

@@ -14,7 +14,13 @@ struct Command {
   int (*run)(std::span<const std::string> arguments);
 };
 
-// Paints the sample sheet of the drawing surfaces and writes it as a PNG.
-int RunSample(std::span<const std::string> arguments);
+// Paints every look of the button onto one labelled sheet and writes it as a PNG.
+int RunGallery(std::span<const std::string> arguments);
+
+// The live demo form, in a window or replaying a script of input without one.
+int RunDemo(std::span<const std::string> arguments);
+
+// Paints one button, set up from the command line, and writes its client area as a PNG.
+int RunRender(std::span<const std::string> arguments);
 
 }  // namespace glyphon::apps

@@ -12,8 +12,13 @@ namespace {
 using glyphon::apps::Command;
 
 constexpr Command kCommands[] = {
-    {"sample", "OUT.png", "paint a sample sheet of the drawing surfaces to a PNG",
-     glyphon::apps::RunSample},
+    {"demo", "[--headless --script FILE] [OPTIONS]",
+     "a live form of buttons in a window, or a script of input replayed without one",
+     glyphon::apps::RunDemo},
+    {"gallery", "OUT.png", "paint every look of the button onto one labelled PNG",
+     glyphon::apps::RunGallery},
+    {"render", "[OPTIONS] OUT.png", "paint one button as the options set it up to a PNG",
+     glyphon::apps::RunRender},
 };
 
 int Usage() {

@@ -184,7 +184,7 @@ TEST(InputTest, StealFocusFalseGivesTheFocusBackAfterAClick) {
   LeakCheck leaks;
   HostedButton hosted;
   const win::HWND other =
-      win::CreateWindowExA(0, "GlyphonMemoryControl", nullptr, win::WS_CHILD | win::WS_VISIBLE,
+      win::CreateWindowExA(0, "GlyphonHostControl", nullptr, win::WS_CHILD | win::WS_VISIBLE,
                            200, 200, 20, 20, hosted.host.FormWindow(), nullptr, nullptr, nullptr);
   win::SetFocus(other);
   hosted.button.SetStealFocus(false);
@@ -208,7 +208,7 @@ TEST(InputTest, FocusIsKeptAtDesignTime) {
   designTime.userMode = false;
   HostedButton hosted(designTime);
   const win::HWND other =
-      win::CreateWindowExA(0, "GlyphonMemoryControl", nullptr, win::WS_CHILD | win::WS_VISIBLE,
+      win::CreateWindowExA(0, "GlyphonHostControl", nullptr, win::WS_CHILD | win::WS_VISIBLE,
                            200, 200, 20, 20, hosted.host.FormWindow(), nullptr, nullptr, nullptr);
   win::SetFocus(other);
   hosted.button.SetStealFocus(false);
