@@ -65,6 +65,8 @@ if(GLYPHON_BUILD_BENCHMARKS)
   set(BENCHMARK_ENABLE_GTEST_TESTS OFF CACHE BOOL "" FORCE)
   set(BENCHMARK_ENABLE_INSTALL OFF CACHE BOOL "" FORCE)
   set(BENCHMARK_ENABLE_WERROR OFF CACHE BOOL "" FORCE)
+  # Debian's sources read no version from git; this value makes them take the project's own.
+  set(GIT_VERSION "0.0.0")
   # Defines benchmark::benchmark and benchmark::benchmark_main as find_package(benchmark) does.
   add_subdirectory("${GLYPHON_BENCHMARK_SOURCE_DIR}" "${CMAKE_BINARY_DIR}/benchmark"
                    EXCLUDE_FROM_ALL SYSTEM)
