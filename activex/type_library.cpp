@@ -182,7 +182,9 @@ class InterfaceBuilder {
     // A property's put takes its value unnamed; methods and events name every parameter.
     std::vector<std::wstring> names{Widen(member.name)};
     if (!isPut) {
-      for (const ParameterInfo& parameter : member.parameters) names.push_back(Widen(parameter.name));
+      for (const ParameterInfo& parameter : member.parameters) {
+        names.push_back(Widen(parameter.name));
+      }
     }
     std::vector<LPOLESTR> namePointers;
     for (std::wstring& name : names) namePointers.push_back(name.data());

@@ -29,7 +29,7 @@ TEST_F(DispatchTest, NewInstanceDefaults) {
            {L"HighlightColor", Color(0x80000014)}, {L"MaskColor", 0x00FFFF00},
            {L"MousePointer", 0}, {L"PictureAlignment", 0}, {L"PictureSpacing", 5},
            {L"PictureStyle", 0}, {L"ShadowColor", Color(0x80000010)}, {L"Style", 0}}) {
-    EXPECT_EQ(button_.GetLong(expected.name), expected.value) << static_cast<char>(expected.name[0]);
+    EXPECT_EQ(button_.GetLong(expected.name), expected.value) << expected.name;
   }
   for (const auto& [name, value] :
        {std::pair{L"Default", false}, {L"DropShadow", false}, {L"Enabled", true},

@@ -16,7 +16,8 @@ constexpr OLE_COLOR kFormBackColor = 0x00C0C0C0;
 void Check(HRESULT result, const char* what) {
   if (FAILED(result)) {
     char text[128];
-    std::snprintf(text, sizeof text, "%s failed: 0x%08lX", what, static_cast<unsigned long>(result));
+    std::snprintf(text, sizeof text, "%s failed: 0x%08lX", what,
+                  static_cast<unsigned long>(result));
     throw std::runtime_error(text);
   }
 }
@@ -504,7 +505,9 @@ std::wstring HostedGlyphon::GetText(const wchar_t* name) {
   return text;
 }
 
-void HostedGlyphon::PutLong(const wchar_t* name, long value) { Check(Put(name, Long(value)), "put"); }
+void HostedGlyphon::PutLong(const wchar_t* name, long value) {
+  Check(Put(name, Long(value)), "put");
+}
 
 void HostedGlyphon::PutBool(const wchar_t* name, bool value) {
   Check(Put(name, Boolean(value)), "put");
