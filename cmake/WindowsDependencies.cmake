@@ -2,9 +2,12 @@
 # except zlib, so they are compiled here from sources that Debian ships:
 #   GoogleTest from /usr/src/googletest (libgtest-dev),
 #   libpng from its Debian source package, unpacked by scripts/windows-tests.sh into
-#   GLYPHON_LIBPNG_SOURCE_DIR.
+#   GLYPHON_LIBPNG_SOURCE_DIR,
+#   Google Benchmark likewise, into GLYPHON_BENCHMARK_SOURCE_DIR (only with benchmarks on).
 # FreeType and fontconfig are not used on Windows: see the soft engine's text note in README.md.
 
+# The static library, so the programs and the DLL need no zlib1.dll beside them.
+set(ZLIB_USE_STATIC_LIBS ON)
 find_package(ZLIB REQUIRED)
 # nlohmann/json is header-only, so the host's copy serves the cross build; but only its own
 # folder may be on the include path (not /usr/include, which holds the host's C library), so the
@@ -49,4 +52,22 @@ if(GLYPHON_BUILD_TESTS)
   set(BUILD_GMOCK ON CACHE BOOL "" FORCE)
   # Defines GTest::gtest, GTest::gtest_main and GTest::gmock as find_package(GTest) does.
   add_subdirectory(/usr/src/googletest "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL SYSTEM)
+endif()
+
+if(GLYPHON_BUILD_BENCHMARKS)
+  set(GLYPHON_BENCHMARK_SOURCE_DIR "${PROJECT_SOURCE_DIR}/build/windows-deps/benchmark" CACHE PATH
+      "Google Benchmark sources for the Windows build")
+  if(NOT EXISTS "${GLYPHON_BENCHMARK_SOURCE_DIR}/CMakeLists.txt")
+    message(FATAL_ERROR "No Google Benchmark sources in ${GLYPHON_BENCHMARK_SOURCE_DIR}: "
+                        "run scripts/windows-tests.sh, or set GLYPHON_BENCHMARK_SOURCE_DIR")
+  endif()
+  set(BENCHMARK_ENABLE_TESTING OFF CACHE BOOL "" FORCE)
+  set(BENCHMARK_ENABLE_GTEST_TESTS OFF CACHE BOOL "" FORCE)
+  set(BENCHMARK_ENABLE_INSTALL OFF CACHE BOOL "" FORCE)
+  set(BENCHMARK_ENABLE_WERROR OFF CACHE BOOL "" FORCE)
+  # Debian's sources read no version from git; this value makes them take the project's own.
+  set(GIT_VERSION "0.0.0")
+  # Defines benchmark::benchmark and benchmark::benchmark_main as find_package(benchmark) does.
+  add_subdirectory("${GLYPHON_BENCHMARK_SOURCE_DIR}" "${CMAKE_BINARY_DIR}/benchmark"
+                   EXCLUDE_FROM_ALL SYSTEM)
 endif()

@@ -53,8 +53,8 @@ void PaintAbout(win::HWND hwnd) {
   win::EndPaint(hwnd, &paint);
 }
 
-win::LRESULT AboutWindowProc(win::HWND hwnd, win::UINT message, win::WPARAM wParam,
-                             win::LPARAM lParam) {
+win::LRESULT GLYPHON_CALLBACK AboutWindowProc(win::HWND hwnd, win::UINT message,
+                                              win::WPARAM wParam, win::LPARAM lParam) {
   switch (message) {
     case win::WM_PAINT:
       PaintAbout(hwnd);

@@ -234,7 +234,7 @@ class Glyphon final : public ButtonView, public HostedControl {
 };
 
 // The replacement window procedure: finds the control through the window's user data.
-win::LRESULT ButtonWindowProc(win::HWND hwnd, win::UINT message, win::WPARAM wParam,
-                              win::LPARAM lParam);
+win::LRESULT GLYPHON_CALLBACK ButtonWindowProc(win::HWND hwnd, win::UINT message,
+                                               win::WPARAM wParam, win::LPARAM lParam);
 
 }  // namespace glyphon

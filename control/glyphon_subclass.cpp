@@ -9,8 +9,8 @@
 
 namespace glyphon {
 
-win::LRESULT ButtonWindowProc(win::HWND hwnd, win::UINT message, win::WPARAM wParam,
-                              win::LPARAM lParam) {
+win::LRESULT GLYPHON_CALLBACK ButtonWindowProc(win::HWND hwnd, win::UINT message,
+                                               win::WPARAM wParam, win::LPARAM lParam) {
   auto* control = reinterpret_cast<Glyphon*>(win::GetWindowLongPtrA(hwnd, win::GWLP_USERDATA));
   if (control == nullptr) return win::DefWindowProcA(hwnd, message, wParam, lParam);
   return control->HandleMessage(hwnd, message, wParam, lParam);

@@ -1,5 +1,7 @@
 #include "platform/engine.h"
 
+#include <atomic>
+
 #include "platform/soft/soft_engine.h"
 
 namespace glyphon::win {
@@ -7,12 +9,18 @@ namespace glyphon::win {
 namespace {
 // The engine serving this thread, resolved once: every platform call reads it.
 thread_local Engine* currentEngine = nullptr;
+std::atomic<Engine*> defaultEngine = nullptr;
 }  // namespace
 
 Engine& CurrentEngine() {
-  if (currentEngine == nullptr) currentEngine = &soft::ThreadSoftEngine();
+  if (currentEngine == nullptr) {
+    Engine* engine = defaultEngine.load();
+    currentEngine = engine != nullptr ? engine : &soft::ThreadSoftEngine();
+  }
   return *currentEngine;
 }
+
+void SetDefaultEngine(Engine& engine) { defaultEngine.store(&engine); }
 
 EngineScope::EngineScope(Engine& engine) : previous_(&CurrentEngine()) { currentEngine = &engine; }
 

@@ -20,6 +20,11 @@ class Engine {
 // soft engine.
 Engine& CurrentEngine();
 
+// Makes engine serve every thread that has no EngineScope, in place of the thread's own soft
+// engine. Call it before the first platform call: a thread keeps the engine it first resolved.
+// The ActiveX DLL serves its host's threads through the native engine this way.
+void SetDefaultEngine(Engine& engine);
+
 // Installs an engine for the calling thread for the scope's lifetime.
 class EngineScope {
  public:

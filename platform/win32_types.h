@@ -277,11 +277,19 @@ struct PICTDESC_BITMAP {
 struct PICTDESC_ICON {
   HICON hicon;
 };
+// Metafile pictures are never described here; the member gives the record Windows' size, which
+// on 32-bit Windows it alone decides.
+struct PICTDESC_METAFILE {
+  void* hmeta;
+  int xExt;
+  int yExt;
+};
 struct PICTDESC {
   UINT cbSizeofstruct;
   UINT picType;
   union {
     PICTDESC_BITMAP bmp;
+    PICTDESC_METAFILE wmf;
     PICTDESC_ICON icon;
   };
 };

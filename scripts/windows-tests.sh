@@ -21,11 +21,14 @@ if ! scripts/install-deps.sh "${packages[@]}"; then
   exit 0
 fi
 
-# libpng for MinGW: Debian packages none, so its Debian source package is built with the rest.
+# libpng and Google Benchmark for MinGW: Debian packages neither, so their Debian source packages
+# are built with the rest.
 deps=build/windows-deps
-if [ ! -f "$deps/libpng/png.h" ]; then
-  echo "== fetching the libpng sources"
-  apt_dir="$PWD/$deps/apt"
+fetch_source() {  # fetch_source SOURCE-PACKAGE FOLDER CHECK-FILE
+  local package=$1 folder=$deps/$2 check=$3
+  [ -f "$folder/$check" ] && return 0
+  echo "== fetching the $package sources"
+  local apt_dir="$PWD/$deps/apt"
   mkdir -p "$apt_dir/lists/partial" "$apt_dir/sources"
   cat >"$apt_dir/sources/debian-src.sources" <<'SOURCES'
 Types: deb-src
@@ -34,19 +37,24 @@ Suites: bookworm
 Components: main
 Signed-By: /usr/share/keyrings/debian-archive-keyring.gpg
 SOURCES
-  apt_options=(-o Dir::Etc::SourceList=/dev/null -o Dir::Etc::SourceParts="$apt_dir/sources"
-               -o Dir::State::Lists="$apt_dir/lists")
+  local apt_options=(-o Dir::Etc::SourceList=/dev/null -o Dir::Etc::SourceParts="$apt_dir/sources"
+                     -o Dir::State::Lists="$apt_dir/lists")
   apt-get "${apt_options[@]}" update -qq
   rm -rf "$apt_dir/source" && mkdir -p "$apt_dir/source"
-  (cd "$apt_dir/source" && apt-get "${apt_options[@]}" source -qq libpng1.6 >/dev/null 2>&1)
-  rm -rf "$deps/libpng"
-  mv "$(find "$apt_dir/source" -mindepth 1 -maxdepth 1 -type d -name 'libpng*' | head -n 1)" \
-     "$deps/libpng"
-fi
+  (cd "$apt_dir/source" && apt-get "${apt_options[@]}" source -qq "$package" >/dev/null 2>&1)
+  rm -rf "$folder"
+  mv "$(find "$apt_dir/source" -mindepth 1 -maxdepth 1 -type d | head -n 1)" "$folder"
+}
+fetch_source libpng1.6 libpng png.h
+fetch_source benchmark benchmark CMakeLists.txt
 
 echo "== cross-building (windows-x64)"
 cmake --preset windows-x64 >/dev/null
 cmake --build --preset windows-x64
+# The 32-bit DLL is built too (32-bit hosts load only it), but not run: the prefix is 64-bit.
+echo "== cross-building zonGlyphon.dll (windows-x86)"
+cmake --preset windows-x86 >/dev/null
+cmake --build --preset windows-x86 --target zonGlyphon
 
 wine64=$(command -v wine64 || echo /usr/lib/wine/wine64)
 export WINEPREFIX="$PWD/build/wine-x64"
@@ -67,6 +75,14 @@ fi
 passed=0
 failed=0
 mkdir -p build/windows-x64/test-output
+# activex_tests drives the registered control by its programmatic identifier.
+echo "== regsvr32 zonGlyphon.dll (wine64)"
+if "$wine64" regsvr32 /s build/windows-x64/activex/zonGlyphon.dll; then
+  echo "   registered"
+else
+  echo "   FAILED: regsvr32 could not register zonGlyphon.dll"
+  failed=$((failed + 1))
+fi
 for program in build/windows-x64/tests/*_tests.exe; do
   name=$(basename "$program" .exe)
   log="build/windows-x64/test-output/$name.log"

@@ -72,4 +72,9 @@ void DestroyHostWindow(win::HWND hwnd) {
   win::DestroyWindow(hwnd);
 }
 
+void UnregisterHostWindowClasses() {
+  win::UnregisterClassA(kFormClass, win::GetModuleHandleA(nullptr));
+  win::UnregisterClassA(kControlClass, win::GetModuleHandleA(nullptr));
+}
+
 }  // namespace glyphon

@@ -22,5 +22,8 @@ win::HWND CreateControlWindow(win::HWND parent, int left, int top, int width, in
                               HostWindowHandler& handler);
 // Unregisters the window's handler and destroys it.
 void DestroyHostWindow(win::HWND hwnd);
+// Unregisters the window classes once no host window is left, so code that may be unloaded (the
+// ActiveX DLL) leaves no class behind whose procedure it takes with it.
+void UnregisterHostWindowClasses();
 
 }  // namespace glyphon

@@ -172,7 +172,8 @@ std::optional<Image> ReadPngFile(const std::filesystem::path& path, std::string*
   }
   std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size));
   file.seekg(0);
-  if (!file.read(reinterpret_cast<char*>(bytes.data()), size)) {
+  // The bound above keeps the size within a 32-bit stream count too.
+  if (!file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(size))) {
     SetError(error, "cannot read " + path.string());
     return std::nullopt;
   }

@@ -8,8 +8,6 @@ namespace glyphon::win::soft {
 
 namespace {
 
-__extension__ typedef __int128 Int128;
-
 // Incremental midpoint ellipse walk shared by region rows and outline points.
 class EllipseWalk {
  public:
@@ -41,9 +39,16 @@ class EllipseWalk {
   long long stepX_, stepY_, dx_, dy_, err_;
 };
 
-long long CeilDiv(Int128 numerator, long long denominator) {
-  const Int128 q = numerator / denominator;
-  return static_cast<long long>(q * denominator < numerator ? q + 1 : q);
+// ceil(a * k / d) for d > 0 and 0 <= k, exact without a 128-bit type (32-bit targets have none):
+// a and k are differences of device coordinates, below 2^34 in size, so with k split into 16-bit
+// halves every partial product fits in 64 bits.
+long long CeilMulDiv(long long a, long long k, long long d) {
+  const long long magnitude = a < 0 ? -a : a;
+  const long long high = magnitude * (k >> 16);
+  const long long low = (high % d) * 65536 + magnitude * (k & 0xFFFF);
+  const long long quotient = (high / d) * 65536 + low / d;
+  if (a < 0) return -quotient;
+  return low % d == 0 ? quotient : quotient + 1;
 }
 
 }  // namespace
@@ -122,8 +127,8 @@ void AddPolygon(CoverageMask& mask, const Point64* points, std::size_t count) {
     for (const Edge& e : edges) {
       if (y < e.top.y || y >= e.bottom.y) continue;
       // The edge walk lands on top.x + ceil(dx * k / dy) at k rows below the top.
-      const Int128 run = static_cast<Int128>(e.bottom.x - e.top.x) * (y - e.top.y);
-      crossings.push_back(e.top.x + CeilDiv(run, e.bottom.y - e.top.y));
+      crossings.push_back(e.top.x + CeilMulDiv(e.bottom.x - e.top.x, y - e.top.y,
+                                               e.bottom.y - e.top.y));
     }
     std::sort(crossings.begin(), crossings.end());
     for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) {
