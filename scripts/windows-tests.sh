@@ -57,6 +57,8 @@ cmake --preset windows-x86 >/dev/null
 cmake --build --preset windows-x86 --target zonGlyphon
 
 wine64=$(command -v wine64 || echo /usr/lib/wine/wine64)
+wineserver=$(dirname "$wine64")/wineserver
+[ -x "$wineserver" ] || wineserver=wineserver
 export WINEPREFIX="$PWD/build/wine-x64"
 export WINEDEBUG=-all
 # No Mono or Gecko installers, no desktop menu entries.
@@ -69,6 +71,9 @@ if [ ! -f "$WINEPREFIX/.glyphon-ready" ]; then
   "$wine64" wineboot -i >/dev/null 2>&1 || true
   "$wine64" reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null 2>&1
   cp /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
+  # wineboot returns while the new prefix is still being set up (side-by-side assemblies, class
+  # registrations); programs started before that ends cannot create windows.
+  "$wineserver" -w
   touch "$WINEPREFIX/.glyphon-ready"
 fi
 
@@ -102,8 +107,6 @@ for program in build/windows-x64/tests/*_tests.exe; do
     echo "   FAILED: see $log"
   fi
 done
-wineserver=$(dirname "$wine64")/wineserver
-[ -x "$wineserver" ] || wineserver=wineserver
 "$wineserver" -k 2>/dev/null || true
 
 echo "windows: ${passed} passed, ${failed} failed"
