@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "content/paint_content.h"
 #include "control/access_key.h"
 #include "styles/style_painters.h"
 #include "surface/mod_colors.h"
@@ -48,6 +49,15 @@ std::unique_ptr<Canvas> PaintLook(const ButtonView& button, int width, int heigh
                                   std::int32_t drawState) {
   auto canvas = MakeFilledCanvas(width, height, win::RGB(255, 0, 255));
   PaintBackground(*canvas, button, drawState);
+  PaintFrame(*canvas, button, drawState);
+  return canvas;
+}
+
+std::unique_ptr<Canvas> PaintButton(const ButtonView& button, int width, int height,
+                                    std::int32_t drawState) {
+  auto canvas = MakeFilledCanvas(width, height, win::RGB(255, 0, 255));
+  PaintBackground(*canvas, button, drawState);
+  PaintContent(*canvas, button, drawState);
   PaintFrame(*canvas, button, drawState);
   return canvas;
 }

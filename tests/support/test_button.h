@@ -97,6 +97,10 @@ std::unique_ptr<Canvas> MakeFilledCanvas(int width, int height, win::OLE_COLOR f
 std::unique_ptr<Canvas> PaintLook(const ButtonView& button, int width, int height,
                                   std::int32_t drawState);
 
+// Background, content and frame, as a repaint paints them.
+std::unique_ptr<Canvas> PaintButton(const ButtonView& button, int width, int height,
+                                    std::int32_t drawState);
+
 // The smallest rectangle (right and bottom exclusive) holding every pixel that differs between
 // two canvases of one size; empty (all zero) when they are equal.
 win::RECT DifferingArea(Canvas& a, Canvas& b);

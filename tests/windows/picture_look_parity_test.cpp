@@ -1,0 +1,202 @@
+// Every look with a picture and an empty caption through the native and the soft engine, pixel
+// for pixel: background, content and frame. Picture handles belong to the engine that made them,
+// so each render makes its own pictures inside the engine scope it paints in.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/codec/bitmap_png.h"
+#include "samples/sample_pictures.h"
+#include "tests/support/leak_check.h"
+#include "tests/support/test_button.h"
+#include "tests/windows/engine_parity.h"
+
+namespace glyphon::testing {
+namespace {
+
+using samples::SamplePicture;
+
+constexpr const char* kStyleNames[] = {"Win9x",        "Win3x",    "XPBlue",
+                                       "XPOliveGreen", "XPSilver", "Mac8x"};
+constexpr const char* kStateNames[] = {"Hot", "Down", "Up"};
+constexpr std::int32_t kStates[] = {DrawStateHot, DrawStateDown, DrawStateUp};
+
+std::string SampleName(SamplePicture sample) {
+  return std::string(samples::InfoOf(sample).name);
+}
+
+// A button of the given style with the sample as its Picture, changed by setUp (which runs in
+// the engine scope too, so it may make more pictures) and painted whole in drawState.
+ParityCase ButtonCase(std::string name, std::int32_t style, SamplePicture sample,
+                      std::int32_t drawState, std::function<void(TestButton&)> setUp = {},
+                      int width = 72, int height = 60) {
+  return {std::move(name), [=] {
+            TestButton button;
+            button.style = style;
+            button.borderStyle = style == zonStyleWin3x ? zonBorderSingle : zonBorderNone;
+            button.picture = samples::MakeSamplePicture(sample);
+            if (setUp) setUp(button);
+            const auto canvas = PaintButton(button, width, height, drawState);
+            const std::optional<Image> image = CaptureDc(canvas->hdc());
+            return image ? *image : Image{};
+          }};
+}
+
+// Each PictureStyle (Active both idling in a running form and in full at design time) in each
+// state, with and without drop shadow and mask colour, for a bitmap with mask-coloured holes, a
+// masked icon and an alpha icon, each under another style's shadow colour.
+std::vector<ParityCase> PictureStyleCases() {
+  struct Variant {
+    const char* name;
+    std::int32_t pictureStyle;
+    bool userMode;
+  };
+  constexpr Variant kVariants[] = {{"Normal", zonPicStyleNormal, true},
+                                   {"Mono", zonPicStyleMono, true},
+                                   {"Popup", zonPicStylePopup, true},
+                                   {"Static", zonPicStyleStatic, true},
+                                   {"ActiveRun", zonPicStyleActive, true},
+                                   {"ActiveDesign", zonPicStyleActive, false}};
+  struct Subject {
+    std::int32_t style;
+    SamplePicture sample;
+  };
+  constexpr Subject kSubjects[] = {{zonStyleWin9x, SamplePicture::Swatches32},
+                                   {zonStyleWinXPSilver, SamplePicture::Globe32Icon},
+                                   {zonStyleMac8x, SamplePicture::Gem48AlphaIcon}};
+  std::vector<ParityCase> cases;
+  for (const Subject subject : kSubjects) {
+    for (const Variant variant : kVariants) {
+      for (const std::int32_t state : kStates) {
+        for (const bool dropShadow : {false, true}) {
+          for (const bool useMask : {false, true}) {
+            const std::string name = std::string(kStyleNames[subject.style]) + "_" +
+                                     SampleName(subject.sample) + "_" + variant.name + "_" +
+                                     kStateNames[state] + (dropShadow ? "_Shadow" : "") +
+                                     (useMask ? "_Masked" : "");
+            cases.push_back(ButtonCase(name, subject.style, subject.sample, state, [=](TestButton& b) {
+              b.pictureStyle = variant.pictureStyle;
+              b.userMode = variant.userMode;
+              b.dropShadow = dropShadow;
+              b.useMaskColor = useMask;
+            }));
+          }
+        }
+      }
+    }
+  }
+  // A default button that shows its ring counts as active, idle or not.
+  cases.push_back(ButtonCase("Win9x_ActiveRun_Up_Default", zonStyleWin9x,
+                             SamplePicture::Swatches32, DrawStateUp, [](TestButton& b) {
+                               b.pictureStyle = zonPicStyleActive;
+                               b.isDefault = true;
+                             }));
+  return cases;
+}
+
+// The disabled looks of each style: embossed silhouettes, the XP greyed picture, and the
+// button's own PictureDisabled drawn plain.
+std::vector<ParityCase> DisabledCases() {
+  constexpr SamplePicture kSamples[] = {SamplePicture::Check16, SamplePicture::Swatches32,
+                                        SamplePicture::Stop16Icon,
+                                        SamplePicture::Gem48AlphaIcon};
+  std::vector<ParityCase> cases;
+  for (std::int32_t style = zonStyleWin9x; style <= zonStyleMac8x; ++style) {
+    const std::string prefix = std::string(kStyleNames[style]) + "_Disabled_";
+    for (const SamplePicture sample : kSamples) {
+      for (const bool useMask : {false, true}) {
+        cases.push_back(ButtonCase(prefix + SampleName(sample) + (useMask ? "_Masked" : ""), style,
+                                   sample, DrawStateUp, [=](TestButton& b) {
+                                     b.enabled = false;
+                                     b.useMaskColor = useMask;
+                                   }));
+      }
+    }
+    cases.push_back(ButtonCase(prefix + "PictureDisabled", style, SamplePicture::Check16,
+                               DrawStateDown, [](TestButton& b) {
+                                 b.enabled = false;
+                                 b.pictureDisabled =
+                                     samples::MakeSamplePicture(SamplePicture::Folder16);
+                               }));
+  }
+  // The dormant look without the pressed shift: a flat silhouette when disabled, and a mono
+  // picture that takes the face colour when down.
+  cases.push_back(ButtonCase("Win9x_Disabled_Flat", zonStyleWin9x, SamplePicture::Swatches32,
+                             DrawStateUp, [](TestButton& b) {
+                               b.enabled = false;
+                               b.pushLook = 0;
+                             }));
+  cases.push_back(ButtonCase("Win9x_Mono_Down_Flat", zonStyleWin9x, SamplePicture::Swatches32,
+                             DrawStateDown, [](TestButton& b) {
+                               b.pictureStyle = zonPicStyleMono;
+                               b.pushLook = 0;
+                             }));
+  return cases;
+}
+
+// Every sample, plain and as a silhouette, keyed and not; the large landscape overflows the
+// button on every side.
+std::vector<ParityCase> SampleCases() {
+  std::vector<ParityCase> cases;
+  for (const samples::SampleInfo& info : samples::AllSamplePictures()) {
+    for (const std::int32_t pictureStyle : {zonPicStyleNormal, zonPicStyleMono}) {
+      for (const bool useMask : {false, true}) {
+        const std::string name = "Sample_" + std::string(info.name) +
+                                 (pictureStyle == zonPicStyleMono ? "_Mono" : "_Normal") +
+                                 (useMask ? "_Masked" : "");
+        cases.push_back(ButtonCase(name, zonStyleWin9x, info.id, DrawStateHot, [=](TestButton& b) {
+          b.pictureStyle = pictureStyle;
+          b.useMaskColor = useMask;
+        }));
+      }
+    }
+  }
+  return cases;
+}
+
+// Every Alignment by PictureAlignment, on a short odd-sized 9x button and on a focused 3.x one,
+// whose dotted focus rectangle hugs the picture.
+std::vector<ParityCase> AlignmentCases() {
+  constexpr const char* kAlignments[] = {"Left", "Right", "Center"};
+  constexpr const char* kPictureAlignments[] = {"Left", "Right", "Center", "Top", "Bottom"};
+  std::vector<ParityCase> cases;
+  for (const std::int32_t style : {zonStyleWin9x, zonStyleWin3x}) {
+    for (std::int32_t alignment = zonAlignLeft; alignment <= zonAlignCenter; ++alignment) {
+      for (std::int32_t picture = zonPicAlignLeft; picture <= zonPicAlignBottom; ++picture) {
+        const std::string name = std::string(kStyleNames[style]) + "_Align" +
+                                 kAlignments[alignment] + "_Picture" + kPictureAlignments[picture];
+        cases.push_back(ButtonCase(
+            name, style, SamplePicture::Arrow15x13, DrawStateDown,
+            [=](TestButton& b) {
+              b.alignment = alignment;
+              b.pictureAlignment = picture;
+              b.hasFocus = style == zonStyleWin3x;
+            },
+            81, style == zonStyleWin3x ? 40 : 25));
+      }
+    }
+  }
+  return cases;
+}
+
+class PictureLookParity : public ::testing::TestWithParam<ParityCase> {};
+
+TEST_P(PictureLookParity, BothEnginesPaintTheSameLook) {
+  LeakCheck leaks;
+  EXPECT_TRUE(EnginesAgree(GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(PictureStyles, PictureLookParity,
+                         ::testing::ValuesIn(PictureStyleCases()), ParityCaseName);
+INSTANTIATE_TEST_SUITE_P(Disabled, PictureLookParity, ::testing::ValuesIn(DisabledCases()),
+                         ParityCaseName);
+INSTANTIATE_TEST_SUITE_P(Samples, PictureLookParity, ::testing::ValuesIn(SampleCases()),
+                         ParityCaseName);
+INSTANTIATE_TEST_SUITE_P(Alignments, PictureLookParity, ::testing::ValuesIn(AlignmentCases()),
+                         ParityCaseName);
+
+}  // namespace
+}  // namespace glyphon::testing
