@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "content/paint_effects.h"
@@ -223,6 +224,41 @@ std::vector<ParityCase> ContextEffectCases() {
   };
 }
 
+// Areas that hang over the canvas's edges, a mirrored copy and empty areas.
+std::vector<ParityCase> EdgeCases() {
+  const auto withSwatches = [](auto paint) {
+    return [=](const PaintEffects& fx, Canvas& canvas) {
+      paint(fx, canvas, samples::MakeSamplePicture(SamplePicture::Swatches32));
+    };
+  };
+  std::vector<ParityCase> cases;
+  for (const auto& [name, x, y] :
+       {std::tuple{"TopLeft", -7, -5}, std::tuple{"BottomRight", kWidth - 10, kHeight - 8}}) {
+    cases.push_back(StripedCase(
+        std::string("OverEdge") + name,
+        withSwatches([x, y](auto& fx, Canvas& c, const StdPicture& pic) {
+          fx.PaintTransparentStdPic(c.hdc(), x, y, 32, 32, pic, 0, 0, kDefaultMaskColor);
+          fx.PaintDisabledStdPic(c.hdc(), x + 8, y + 4, 32, 32, pic, 0, 0);
+          fx.PaintMonoStandardPic(pic, c, x + 4, y + 12, 32, 32);
+          PaintFadedPicture(pic, c.hdc(), x + 12, y + 6, -1, -1, 50, kDefaultMaskColor);
+        })));
+  }
+  cases.push_back(
+      StripedCase("NormalMirrored", withSwatches([](auto& fx, Canvas& c, const StdPicture& pic) {
+                    fx.PaintNormalStdPic(c.hdc(), 40, 4, -32, 32, pic, 0, 0);
+                    fx.PaintNormalStdPic(c.hdc(), 20, 50, 32, -32, pic, 0, 0);
+                  })));
+  cases.push_back(
+      StripedCase("EmptyAreas", withSwatches([](auto& fx, Canvas& c, const StdPicture& pic) {
+                    fx.PaintTransparentStdPic(c.hdc(), 3, 4, 0, 32, pic, 0, 0, kDefaultMaskColor);
+                    fx.PaintDisabledStdPic(c.hdc(), 3, 4, 32, 0, pic, 0, 0);
+                    fx.PaintMonoStandardPic(pic, c, 3, 4, 0, 0);
+                    fx.PaintBlurredStandardPic(pic, c, 3, 4, -4, 32);
+                    PaintGreyedPicture(pic, c.hdc(), 3, 4, 0, 10, 50, kPlainGrey);
+                  })));
+  return cases;
+}
+
 class EffectsParity : public ::testing::TestWithParam<ParityCase> {};
 
 TEST_P(EffectsParity, BothEnginesPaintTheSamePixels) {
@@ -232,6 +268,7 @@ TEST_P(EffectsParity, BothEnginesPaintTheSamePixels) {
 
 INSTANTIATE_TEST_SUITE_P(Pictures, EffectsParity, ::testing::ValuesIn(PictureEffectCases()),
                          ParityCaseName);
+INSTANTIATE_TEST_SUITE_P(Edges, EffectsParity, ::testing::ValuesIn(EdgeCases()), ParityCaseName);
 INSTANTIATE_TEST_SUITE_P(Contexts, EffectsParity, ::testing::ValuesIn(ContextEffectCases()),
                          ParityCaseName);
 

@@ -13,6 +13,7 @@
 #include "tests/support/leak_check.h"
 #include "tests/support/test_button.h"
 #include "tests/windows/engine_parity.h"
+#include "tests/windows/host_pictures.h"
 
 namespace glyphon::testing {
 namespace {
@@ -24,20 +25,24 @@ constexpr const char* kStyleNames[] = {"Win9x",        "Win3x",    "XPBlue",
 constexpr const char* kStateNames[] = {"Hot", "Down", "Up"};
 constexpr std::int32_t kStates[] = {DrawStateHot, DrawStateDown, DrawStateUp};
 
-std::string SampleName(SamplePicture sample) {
-  return std::string(samples::InfoOf(sample).name);
+std::string SampleName(SamplePicture sample) { return std::string(samples::InfoOf(sample).name); }
+
+using PictureMaker = std::function<StdPicture()>;
+
+PictureMaker Sample(SamplePicture sample) {
+  return [sample] { return samples::MakeSamplePicture(sample); };
 }
 
-// A button of the given style with the sample as its Picture, changed by setUp (which runs in
-// the engine scope too, so it may make more pictures) and painted whole in drawState.
-ParityCase ButtonCase(std::string name, std::int32_t style, SamplePicture sample,
+// A button of the given style with the picture made as its Picture, changed by setUp (which
+// runs in the engine scope too, so it may make more pictures) and painted whole in drawState.
+ParityCase ButtonCase(std::string name, std::int32_t style, const PictureMaker& makePicture,
                       std::int32_t drawState, std::function<void(TestButton&)> setUp = {},
                       int width = 72, int height = 60) {
   return {std::move(name), [=] {
             TestButton button;
             button.style = style;
             button.borderStyle = style == zonStyleWin3x ? zonBorderSingle : zonBorderNone;
-            button.picture = samples::MakeSamplePicture(sample);
+            button.picture = makePicture();
             if (setUp) setUp(button);
             const auto canvas = PaintButton(button, width, height, drawState);
             const std::optional<Image> image = CaptureDc(canvas->hdc());
@@ -54,12 +59,10 @@ std::vector<ParityCase> PictureStyleCases() {
     std::int32_t pictureStyle;
     bool userMode;
   };
-  constexpr Variant kVariants[] = {{"Normal", zonPicStyleNormal, true},
-                                   {"Mono", zonPicStyleMono, true},
-                                   {"Popup", zonPicStylePopup, true},
-                                   {"Static", zonPicStyleStatic, true},
-                                   {"ActiveRun", zonPicStyleActive, true},
-                                   {"ActiveDesign", zonPicStyleActive, false}};
+  constexpr Variant kVariants[] = {
+      {"Normal", zonPicStyleNormal, true},    {"Mono", zonPicStyleMono, true},
+      {"Popup", zonPicStylePopup, true},      {"Static", zonPicStyleStatic, true},
+      {"ActiveRun", zonPicStyleActive, true}, {"ActiveDesign", zonPicStyleActive, false}};
   struct Subject {
     std::int32_t style;
     SamplePicture sample;
@@ -77,12 +80,13 @@ std::vector<ParityCase> PictureStyleCases() {
                                      SampleName(subject.sample) + "_" + variant.name + "_" +
                                      kStateNames[state] + (dropShadow ? "_Shadow" : "") +
                                      (useMask ? "_Masked" : "");
-            cases.push_back(ButtonCase(name, subject.style, subject.sample, state, [=](TestButton& b) {
-              b.pictureStyle = variant.pictureStyle;
-              b.userMode = variant.userMode;
-              b.dropShadow = dropShadow;
-              b.useMaskColor = useMask;
-            }));
+            cases.push_back(
+                ButtonCase(name, subject.style, Sample(subject.sample), state, [=](TestButton& b) {
+                  b.pictureStyle = variant.pictureStyle;
+                  b.userMode = variant.userMode;
+                  b.dropShadow = dropShadow;
+                  b.useMaskColor = useMask;
+                }));
           }
         }
       }
@@ -90,7 +94,7 @@ std::vector<ParityCase> PictureStyleCases() {
   }
   // A default button that shows its ring counts as active, idle or not.
   cases.push_back(ButtonCase("Win9x_ActiveRun_Up_Default", zonStyleWin9x,
-                             SamplePicture::Swatches32, DrawStateUp, [](TestButton& b) {
+                             Sample(SamplePicture::Swatches32), DrawStateUp, [](TestButton& b) {
                                b.pictureStyle = zonPicStyleActive;
                                b.isDefault = true;
                              }));
@@ -101,21 +105,20 @@ std::vector<ParityCase> PictureStyleCases() {
 // button's own PictureDisabled drawn plain.
 std::vector<ParityCase> DisabledCases() {
   constexpr SamplePicture kSamples[] = {SamplePicture::Check16, SamplePicture::Swatches32,
-                                        SamplePicture::Stop16Icon,
-                                        SamplePicture::Gem48AlphaIcon};
+                                        SamplePicture::Stop16Icon, SamplePicture::Gem48AlphaIcon};
   std::vector<ParityCase> cases;
   for (std::int32_t style = zonStyleWin9x; style <= zonStyleMac8x; ++style) {
     const std::string prefix = std::string(kStyleNames[style]) + "_Disabled_";
     for (const SamplePicture sample : kSamples) {
       for (const bool useMask : {false, true}) {
         cases.push_back(ButtonCase(prefix + SampleName(sample) + (useMask ? "_Masked" : ""), style,
-                                   sample, DrawStateUp, [=](TestButton& b) {
+                                   Sample(sample), DrawStateUp, [=](TestButton& b) {
                                      b.enabled = false;
                                      b.useMaskColor = useMask;
                                    }));
       }
     }
-    cases.push_back(ButtonCase(prefix + "PictureDisabled", style, SamplePicture::Check16,
+    cases.push_back(ButtonCase(prefix + "PictureDisabled", style, Sample(SamplePicture::Check16),
                                DrawStateDown, [](TestButton& b) {
                                  b.enabled = false;
                                  b.pictureDisabled =
@@ -124,13 +127,13 @@ std::vector<ParityCase> DisabledCases() {
   }
   // The dormant look without the pressed shift: a flat silhouette when disabled, and a mono
   // picture that takes the face colour when down.
-  cases.push_back(ButtonCase("Win9x_Disabled_Flat", zonStyleWin9x, SamplePicture::Swatches32,
-                             DrawStateUp, [](TestButton& b) {
+  cases.push_back(ButtonCase("Win9x_Disabled_Flat", zonStyleWin9x,
+                             Sample(SamplePicture::Swatches32), DrawStateUp, [](TestButton& b) {
                                b.enabled = false;
                                b.pushLook = 0;
                              }));
-  cases.push_back(ButtonCase("Win9x_Mono_Down_Flat", zonStyleWin9x, SamplePicture::Swatches32,
-                             DrawStateDown, [](TestButton& b) {
+  cases.push_back(ButtonCase("Win9x_Mono_Down_Flat", zonStyleWin9x,
+                             Sample(SamplePicture::Swatches32), DrawStateDown, [](TestButton& b) {
                                b.pictureStyle = zonPicStyleMono;
                                b.pushLook = 0;
                              }));
@@ -147,10 +150,11 @@ std::vector<ParityCase> SampleCases() {
         const std::string name = "Sample_" + std::string(info.name) +
                                  (pictureStyle == zonPicStyleMono ? "_Mono" : "_Normal") +
                                  (useMask ? "_Masked" : "");
-        cases.push_back(ButtonCase(name, zonStyleWin9x, info.id, DrawStateHot, [=](TestButton& b) {
-          b.pictureStyle = pictureStyle;
-          b.useMaskColor = useMask;
-        }));
+        cases.push_back(
+            ButtonCase(name, zonStyleWin9x, Sample(info.id), DrawStateHot, [=](TestButton& b) {
+              b.pictureStyle = pictureStyle;
+              b.useMaskColor = useMask;
+            }));
       }
     }
   }
@@ -169,7 +173,7 @@ std::vector<ParityCase> AlignmentCases() {
         const std::string name = std::string(kStyleNames[style]) + "_Align" +
                                  kAlignments[alignment] + "_Picture" + kPictureAlignments[picture];
         cases.push_back(ButtonCase(
-            name, style, SamplePicture::Arrow15x13, DrawStateDown,
+            name, style, Sample(SamplePicture::Arrow15x13), DrawStateDown,
             [=](TestButton& b) {
               b.alignment = alignment;
               b.pictureAlignment = picture;
@@ -182,6 +186,66 @@ std::vector<ParityCase> AlignmentCases() {
   return cases;
 }
 
+// Colours other than the defaults: a mask that keys a picture colour, a system colour as the mask
+// (the XP greyed picture and the faded one translate it themselves), and a custom face whose
+// derived shadow inks the drop shadow and the embossed look.
+std::vector<ParityCase> ColourCases() {
+  const PictureMaker swatches = Sample(SamplePicture::Swatches32);
+  constexpr win::OLE_COLOR kSystemWhite = 0x80000000u | win::COLOR_WINDOW;
+  return {
+      ButtonCase("Win9x_MaskRed", zonStyleWin9x, swatches, DrawStateHot,
+                 [](TestButton& b) { b.maskColor = win::RGB(255, 0, 0); }),
+      ButtonCase("XPBlue_Disabled_MaskSystemWhite", zonStyleWinXPBlue, swatches, DrawStateUp,
+                 [=](TestButton& b) {
+                   b.enabled = false;
+                   b.maskColor = kSystemWhite;
+                 }),
+      ButtonCase("Mac8x_ActiveRun_MaskSystemWhite", zonStyleMac8x, swatches, DrawStateUp,
+                 [=](TestButton& b) {
+                   b.pictureStyle = zonPicStyleActive;
+                   b.maskColor = kSystemWhite;
+                 }),
+      ButtonCase("Win9x_CustomFace_Mono_Down_Shadow", zonStyleWin9x, swatches, DrawStateDown,
+                 [](TestButton& b) {
+                   b.SetBackColor(win::RGB(200, 180, 140));
+                   b.pictureStyle = zonPicStyleMono;
+                   b.dropShadow = true;
+                 }),
+      ButtonCase("Win3x_CustomFace_Disabled", zonStyleWin3x, swatches, DrawStateUp,
+                 [](TestButton& b) {
+                   b.SetBackColor(win::RGB(60, 90, 160));
+                   b.enabled = false;
+                 }),
+  };
+}
+
+// Bitmaps of every format a host may hand over: copied with a drop shadow, embossed, greyed and
+// faded.
+std::vector<ParityCase> HostBitmapCases() {
+  struct Use {
+    const char* name;
+    std::int32_t style;
+    std::int32_t drawState;
+    void (*setUp)(TestButton&);
+  };
+  constexpr Use kUses[] = {
+      {"Shadow", zonStyleWin9x, DrawStateHot, [](TestButton& b) { b.dropShadow = true; }},
+      {"Embossed", zonStyleWin9x, DrawStateUp, [](TestButton& b) { b.enabled = false; }},
+      {"Greyed", zonStyleWinXPOliveGreen, DrawStateUp, [](TestButton& b) { b.enabled = false; }},
+      {"Faded", zonStyleWinXPBlue, DrawStateUp,
+       [](TestButton& b) { b.pictureStyle = zonPicStyleActive; }},
+  };
+  std::vector<ParityCase> cases;
+  for (const HostBitmapInfo& info : AllHostBitmaps()) {
+    for (const Use use : kUses) {
+      cases.push_back(ButtonCase(
+          std::string("Host_") + std::string(info.name) + "_" + use.name, use.style,
+          [id = info.id] { return MakeHostBitmapPicture(id); }, use.drawState, use.setUp));
+    }
+  }
+  return cases;
+}
+
 class PictureLookParity : public ::testing::TestWithParam<ParityCase> {};
 
 TEST_P(PictureLookParity, BothEnginesPaintTheSameLook) {
@@ -189,11 +253,15 @@ TEST_P(PictureLookParity, BothEnginesPaintTheSameLook) {
   EXPECT_TRUE(EnginesAgree(GetParam()));
 }
 
-INSTANTIATE_TEST_SUITE_P(PictureStyles, PictureLookParity,
-                         ::testing::ValuesIn(PictureStyleCases()), ParityCaseName);
+INSTANTIATE_TEST_SUITE_P(PictureStyles, PictureLookParity, ::testing::ValuesIn(PictureStyleCases()),
+                         ParityCaseName);
 INSTANTIATE_TEST_SUITE_P(Disabled, PictureLookParity, ::testing::ValuesIn(DisabledCases()),
                          ParityCaseName);
 INSTANTIATE_TEST_SUITE_P(Samples, PictureLookParity, ::testing::ValuesIn(SampleCases()),
+                         ParityCaseName);
+INSTANTIATE_TEST_SUITE_P(Colours, PictureLookParity, ::testing::ValuesIn(ColourCases()),
+                         ParityCaseName);
+INSTANTIATE_TEST_SUITE_P(HostBitmaps, PictureLookParity, ::testing::ValuesIn(HostBitmapCases()),
                          ParityCaseName);
 INSTANTIATE_TEST_SUITE_P(Alignments, PictureLookParity, ::testing::ValuesIn(AlignmentCases()),
                          ParityCaseName);
