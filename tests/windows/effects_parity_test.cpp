@@ -149,7 +149,7 @@ struct TestPicture {
 };
 
 // Samples of each kind (bitmap with mask-coloured parts, odd-sized bitmap, masked icon, alpha
-// icon) and every host bitmap format.
+// icon), every host bitmap format and the icon with every alpha level.
 std::vector<TestPicture> TestPictures() {
   std::vector<TestPicture> pictures;
   for (const SamplePicture sample : {SamplePicture::Swatches32, SamplePicture::Arrow15x13,
@@ -162,6 +162,8 @@ std::vector<TestPicture> TestPictures() {
     pictures.push_back({std::string(info.name), kHostBitmapWidth, kHostBitmapHeight,
                         [id = info.id] { return MakeHostBitmapPicture(id); }});
   }
+  pictures.push_back({"alpharamp", kAlphaRampIconSize, kAlphaRampIconSize,
+                      [] { return MakeAlphaRampIconPicture(); }});
   return pictures;
 }
 

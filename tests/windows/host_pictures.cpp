@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "platform/codec/picture_objects.h"
 #include "tests/windows/gdi_scenarios.h"
 
 namespace glyphon::testing {
@@ -138,6 +139,25 @@ std::span<const HostBitmapInfo> AllHostBitmaps() { return kHostBitmaps; }
 
 StdPicture MakeHostBitmapPicture(HostBitmap which) {
   return StdPicture::FromBitmap(NewBitmap(which), true);
+}
+
+StdPicture MakeAlphaRampIconPicture() {
+  constexpr int kSize = kAlphaRampIconSize;
+  IconImage icon;
+  icon.color = Image::Blank(kSize, kSize);
+  icon.mask.resize(kSize * kSize);
+  for (int y = 0; y < kSize; ++y) {
+    for (int x = 0; x < kSize; ++x) {
+      const int n = y * kSize + x;
+      std::uint8_t* pixel = icon.color.Pixel(x, y);
+      pixel[0] = static_cast<std::uint8_t>(n * 37);
+      pixel[1] = static_cast<std::uint8_t>(255 - n * 11);
+      pixel[2] = static_cast<std::uint8_t>(n * 5 + y);
+      pixel[3] = static_cast<std::uint8_t>(n);
+      icon.mask[static_cast<std::size_t>(n)] = pixel[3] == 0 ? 1 : 0;
+    }
+  }
+  return MakeIconPicture(icon);
 }
 
 }  // namespace glyphon::testing

@@ -1,7 +1,8 @@
-// Bitmap pictures in formats a host may hand over but the samples never make: a monochrome
-// device bitmap, DIB sections of 1, 8 and 24 bits with colour tables and padded rows, and a
-// bitmap compatible with the screen. Each is made by the current engine and holds chequers with
-// an area of the button's default mask colour, which the indexed ones keep in their tables.
+// Pictures a host may hand over but the samples never make: a monochrome device bitmap, DIB
+// sections of 1, 8 and 24 bits with colour tables and padded rows, and a bitmap compatible with
+// the screen, each holding chequers with an area of the button's default mask colour (which the
+// indexed ones keep in their tables); and an icon with every alpha level. All are made by the
+// current engine.
 #pragma once
 
 #include <span>
@@ -26,5 +27,10 @@ inline constexpr int kHostBitmapHeight = 17;
 
 // A picture that owns its bitmap.
 StdPicture MakeHostBitmapPicture(HostBitmap which);
+
+// An icon whose pixels run through every alpha value (0 only where its mask is set), each in
+// several colours, so that any rounding of the blend shows.
+inline constexpr int kAlphaRampIconSize = 32;
+StdPicture MakeAlphaRampIconPicture();
 
 }  // namespace glyphon::testing

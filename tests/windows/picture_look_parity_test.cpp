@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/codec/bitmap_png.h"
@@ -48,6 +49,32 @@ ParityCase ButtonCase(std::string name, std::int32_t style, const PictureMaker& 
             const std::optional<Image> image = CaptureDc(canvas->hdc());
             return image ? *image : Image{};
           }};
+}
+
+// Every style in every state, enabled or not, plain or default with the focus, with a picture at
+// the button's defaults, at the size of the looks without content.
+std::vector<ParityCase> StyleLookCases() {
+  std::vector<ParityCase> cases;
+  for (std::int32_t style = zonStyleWin9x; style <= zonStyleMac8x; ++style) {
+    for (const std::int32_t state : kStates) {
+      for (const bool enabled : {true, false}) {
+        for (const bool decorated : {false, true}) {
+          const std::string name = std::string(kStyleNames[style]) + "_" + kStateNames[state] +
+                                   (enabled ? "" : "_Disabled") +
+                                   (decorated ? "_DefaultFocus" : "");
+          cases.push_back(ButtonCase(
+              name, style, Sample(SamplePicture::Check16), state,
+              [=](TestButton& b) {
+                b.enabled = enabled;
+                b.isDefault = decorated;
+                b.hasFocus = decorated;
+              },
+              81, 25));
+        }
+      }
+    }
+  }
+  return cases;
 }
 
 // Each PictureStyle (Active both idling in a running form and in full at design time) in each
@@ -219,9 +246,9 @@ std::vector<ParityCase> ColourCases() {
   };
 }
 
-// Bitmaps of every format a host may hand over: copied with a drop shadow, embossed, greyed and
-// faded.
-std::vector<ParityCase> HostBitmapCases() {
+// Bitmaps of every format a host may hand over and the icon with every alpha level: copied with
+// a drop shadow, embossed, greyed and faded.
+std::vector<ParityCase> HostPictureCases() {
   struct Use {
     const char* name;
     std::int32_t style;
@@ -235,12 +262,16 @@ std::vector<ParityCase> HostBitmapCases() {
       {"Faded", zonStyleWinXPBlue, DrawStateUp,
        [](TestButton& b) { b.pictureStyle = zonPicStyleActive; }},
   };
-  std::vector<ParityCase> cases;
+  std::vector<std::pair<std::string, PictureMaker>> pictures{
+      {"alpharamp", [] { return MakeAlphaRampIconPicture(); }}};
   for (const HostBitmapInfo& info : AllHostBitmaps()) {
+    pictures.emplace_back(info.name, [id = info.id] { return MakeHostBitmapPicture(id); });
+  }
+  std::vector<ParityCase> cases;
+  for (const auto& [name, make] : pictures) {
     for (const Use use : kUses) {
-      cases.push_back(ButtonCase(
-          std::string("Host_") + std::string(info.name) + "_" + use.name, use.style,
-          [id = info.id] { return MakeHostBitmapPicture(id); }, use.drawState, use.setUp));
+      cases.push_back(ButtonCase("Host_" + name + "_" + use.name, use.style, make, use.drawState,
+                                 use.setUp));
     }
   }
   return cases;
@@ -253,6 +284,8 @@ TEST_P(PictureLookParity, BothEnginesPaintTheSameLook) {
   EXPECT_TRUE(EnginesAgree(GetParam()));
 }
 
+INSTANTIATE_TEST_SUITE_P(Looks, PictureLookParity, ::testing::ValuesIn(StyleLookCases()),
+                         ParityCaseName);
 INSTANTIATE_TEST_SUITE_P(PictureStyles, PictureLookParity, ::testing::ValuesIn(PictureStyleCases()),
                          ParityCaseName);
 INSTANTIATE_TEST_SUITE_P(Disabled, PictureLookParity, ::testing::ValuesIn(DisabledCases()),
@@ -261,7 +294,7 @@ INSTANTIATE_TEST_SUITE_P(Samples, PictureLookParity, ::testing::ValuesIn(SampleC
                          ParityCaseName);
 INSTANTIATE_TEST_SUITE_P(Colours, PictureLookParity, ::testing::ValuesIn(ColourCases()),
                          ParityCaseName);
-INSTANTIATE_TEST_SUITE_P(HostBitmaps, PictureLookParity, ::testing::ValuesIn(HostBitmapCases()),
+INSTANTIATE_TEST_SUITE_P(HostPictures, PictureLookParity, ::testing::ValuesIn(HostPictureCases()),
                          ParityCaseName);
 INSTANTIATE_TEST_SUITE_P(Alignments, PictureLookParity, ::testing::ValuesIn(AlignmentCases()),
                          ParityCaseName);
