@@ -149,7 +149,7 @@ struct TestPicture {
 };
 
 // Samples of each kind (bitmap with mask-coloured parts, odd-sized bitmap, masked icon, alpha
-// icon), every host bitmap format and the icon with every alpha level.
+// icon) and every host picture.
 std::vector<TestPicture> TestPictures() {
   std::vector<TestPicture> pictures;
   for (const SamplePicture sample : {SamplePicture::Swatches32, SamplePicture::Arrow15x13,
@@ -158,12 +158,10 @@ std::vector<TestPicture> TestPictures() {
     pictures.push_back({std::string(info.name), info.width, info.height,
                         [sample] { return samples::MakeSamplePicture(sample); }});
   }
-  for (const HostBitmapInfo& info : AllHostBitmaps()) {
-    pictures.push_back({std::string(info.name), kHostBitmapWidth, kHostBitmapHeight,
-                        [id = info.id] { return MakeHostBitmapPicture(id); }});
+  for (const HostPictureInfo& info : AllHostPictures()) {
+    pictures.push_back({std::string(info.name), info.width, info.height,
+                        [id = info.id] { return MakeHostPicture(id); }});
   }
-  pictures.push_back({"alpharamp", kAlphaRampIconSize, kAlphaRampIconSize,
-                      [] { return MakeAlphaRampIconPicture(); }});
   return pictures;
 }
 

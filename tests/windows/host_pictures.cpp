@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <vector>
 
 #include "platform/codec/picture_objects.h"
 #include "tests/windows/gdi_scenarios.h"
@@ -13,15 +14,20 @@ namespace {
 
 using namespace win;
 
-constexpr int kWidth = kHostBitmapWidth;
-constexpr int kHeight = kHostBitmapHeight;
+// Odd, so that rows of every depth are padded.
+constexpr int kWidth = 21;
+constexpr int kHeight = 17;
+constexpr int kIconSize = 32;
 
-constexpr std::array<HostBitmapInfo, 5> kHostBitmaps{{
-    {HostBitmap::Monochrome, "mono"},
-    {HostBitmap::Dib1Coloured, "dib1"},
-    {HostBitmap::Dib8, "dib8"},
-    {HostBitmap::Dib24, "dib24"},
-    {HostBitmap::ScreenCompatible, "ddb"},
+constexpr std::array<HostPictureInfo, 8> kHostPictures{{
+    {HostPicture::MonochromeBitmap, "mono", kWidth, kHeight},
+    {HostPicture::Dib1Coloured, "dib1", kWidth, kHeight},
+    {HostPicture::Dib8, "dib8", kWidth, kHeight},
+    {HostPicture::Dib24, "dib24", kWidth, kHeight},
+    {HostPicture::ScreenCompatible, "ddb", kWidth, kHeight},
+    {HostPicture::MonochromeIcon, "monoicon", kIconSize, kIconSize},
+    {HostPicture::InvertingIcon, "invertingicon", kIconSize, kIconSize},
+    {HostPicture::AlphaRampIcon, "alpharamp", kIconSize, kIconSize},
 }};
 
 // The table of the indexed sections: the mask colour, its near miss, black, white and colours.
@@ -37,8 +43,9 @@ constexpr int kMaskIndex = 0;
 
 bool InMaskArea(int x, int y) { return x >= 6 && x < 14 && y >= 5 && y < 12; }
 
-int IndexAt(int x, int y, int colours) {
-  return InMaskArea(x, y) ? kMaskIndex : 1 + (x / 3 + y / 3) % (colours - 1);
+int IndexAt(int x, int y) {
+  constexpr int kColours = static_cast<int>(kTable.size());
+  return InMaskArea(x, y) ? kMaskIndex : 1 + (x / 3 + y / 3) % (kColours - 1);
 }
 
 struct IndexedInfo {
@@ -80,9 +87,9 @@ HBITMAP Painted(HBITMAP bitmap, Paint paint) {
   return bitmap;
 }
 
-HBITMAP NewBitmap(HostBitmap which) {
+HBITMAP NewBitmap(HostPicture which) {
   switch (which) {
-    case HostBitmap::Monochrome:
+    case HostPicture::MonochromeBitmap:
       return Painted(CreateBitmap(kWidth, kHeight, 1, 1, nullptr), [](HDC dc) {
         const auto black = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
         const auto white = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
@@ -95,32 +102,30 @@ HBITMAP NewBitmap(HostBitmap which) {
         const RECT box{6, 5, 14, 12};
         FillRect(dc, &box, white);
       });
-    case HostBitmap::Dib1Coloured: {
-      const std::array<RGBQUAD, 2> table{kTable[4], kTable[0]};
+    case HostPicture::Dib1Coloured: {
+      const std::array<RGBQUAD, 2> table{kTable[4], kTable[kMaskIndex]};
       return NewDibSection(1, table, [](std::uint8_t* row, int y) {
         for (int x = 0; x < kWidth; ++x) {
           if (InMaskArea(x, y) || (x + y) % 3 == 0) row[x / 8] |= 0x80 >> (x % 8);
         }
       });
     }
-    case HostBitmap::Dib8:
+    case HostPicture::Dib8:
       return NewDibSection(8, kTable, [](std::uint8_t* row, int y) {
-        for (int x = 0; x < kWidth; ++x) {
-          row[x] = static_cast<std::uint8_t>(IndexAt(x, y, static_cast<int>(kTable.size())));
-        }
+        for (int x = 0; x < kWidth; ++x) row[x] = static_cast<std::uint8_t>(IndexAt(x, y));
       });
-    case HostBitmap::Dib24:
+    case HostPicture::Dib24:
       return NewDibSection(24, {}, [](std::uint8_t* row, int y) {
         for (int x = 0; x < kWidth; ++x) {
-          const RGBQUAD& entry = kTable[static_cast<std::size_t>(IndexAt(x, y, 8))];
-          row[3 * x] = entry.rgbBlue;
+          const RGBQUAD& entry = kTable[static_cast<std::size_t>(IndexAt(x, y))];
           // A green ramp outside the mask area, so that neighbours differ in one channel.
           const int ramp = InMaskArea(x, y) ? 0 : x * 3;
+          row[3 * x] = entry.rgbBlue;
           row[3 * x + 1] = static_cast<std::uint8_t>((entry.rgbGreen + ramp) & 0xFF);
           row[3 * x + 2] = entry.rgbRed;
         }
       });
-    case HostBitmap::ScreenCompatible: {
+    case HostPicture::ScreenCompatible: {
       HDC screen = GetDC(nullptr);
       HBITMAP bitmap = CreateCompatibleBitmap(screen, kWidth, kHeight);
       ReleaseDC(nullptr, screen);
@@ -129,26 +134,66 @@ HBITMAP NewBitmap(HostBitmap which) {
         FillSolid(dc, 6, 5, 14, 12, RGB(0, 255, 255));
       });
     }
+    default: return nullptr;
   }
-  return nullptr;
 }
 
-}  // namespace
-
-std::span<const HostBitmapInfo> AllHostBitmaps() { return kHostBitmaps; }
-
-StdPicture MakeHostBitmapPicture(HostBitmap which) {
-  return StdPicture::FromBitmap(NewBitmap(which), true);
+bool InDisc(int x, int y) {
+  const int dx = 2 * x - kIconSize + 1;
+  const int dy = 2 * y - kIconSize + 1;
+  return dx * dx + dy * dy <= (kIconSize - 2) * (kIconSize - 2);
 }
 
-StdPicture MakeAlphaRampIconPicture() {
-  constexpr int kSize = kAlphaRampIconSize;
+// AND over XOR, one monochrome bitmap of double height: a black and white disc, with inverted
+// screen pixels in a band across it and transparent ones around it.
+HICON NewMonochromeIcon() {
+  constexpr int kStride = (kIconSize + 15) / 16 * 2;
+  std::vector<std::uint8_t> bits(static_cast<std::size_t>(kStride * kIconSize * 2), 0);
+  const auto set = [&](int x, int y) { bits[y * kStride + x / 8] |= 0x80 >> (x % 8); };
+  for (int y = 0; y < kIconSize; ++y) {
+    for (int x = 0; x < kIconSize; ++x) {
+      const bool band = y >= 12 && y < 18;
+      // AND: the screen shows around the disc and through the band.
+      if (!InDisc(x, y) || band) set(x, y);
+      // XOR: chequers on the disc, and the band inverts the screen.
+      if ((InDisc(x, y) && (x / 4 + y / 4) % 2 == 0) || band) set(x, kIconSize + y);
+    }
+  }
+  const HBITMAP mask = CreateBitmap(kIconSize, kIconSize * 2, 1, 1, bits.data());
+  ICONINFO info{TRUE, 0, 0, mask, nullptr};
+  const HICON icon = CreateIconIndirect(&info);
+  DeleteObject(mask);
+  return icon;
+}
+
+// Colours without alpha, so the AND mask decides; masked pixels that are not black invert.
+IconImage InvertingIcon() {
   IconImage icon;
-  icon.color = Image::Blank(kSize, kSize);
-  icon.mask.resize(kSize * kSize);
-  for (int y = 0; y < kSize; ++y) {
-    for (int x = 0; x < kSize; ++x) {
-      const int n = y * kSize + x;
+  icon.color = Image::Blank(kIconSize, kIconSize);
+  icon.mask.resize(kIconSize * kIconSize);
+  for (int y = 0; y < kIconSize; ++y) {
+    for (int x = 0; x < kIconSize; ++x) {
+      std::uint8_t* pixel = icon.color.Pixel(x, y);
+      const bool inverting = x >= 20;
+      pixel[0] = static_cast<std::uint8_t>(x * 8);
+      pixel[1] = static_cast<std::uint8_t>(inverting ? 255 : y * 8);
+      pixel[2] = static_cast<std::uint8_t>(InDisc(x, y) ? 200 : 0);
+      icon.mask[static_cast<std::size_t>(y * kIconSize + x)] =
+          inverting || !InDisc(x, y) ? 1 : 0;
+      if (!inverting && !InDisc(x, y)) pixel[0] = pixel[1] = pixel[2] = 0;
+    }
+  }
+  return icon;
+}
+
+// Every alpha value, each in several colours; alpha 0 only where the mask is set.
+IconImage AlphaRampIcon() {
+  IconImage icon;
+  icon.color = Image::Blank(kIconSize, kIconSize);
+  icon.mask.resize(kIconSize * kIconSize);
+  for (int y = 0; y < kIconSize; ++y) {
+    for (int x = 0; x < kIconSize; ++x) {
+      const int n = y * kIconSize + x;
       std::uint8_t* pixel = icon.color.Pixel(x, y);
       pixel[0] = static_cast<std::uint8_t>(n * 37);
       pixel[1] = static_cast<std::uint8_t>(255 - n * 11);
@@ -157,7 +202,20 @@ StdPicture MakeAlphaRampIconPicture() {
       icon.mask[static_cast<std::size_t>(n)] = pixel[3] == 0 ? 1 : 0;
     }
   }
-  return MakeIconPicture(icon);
+  return icon;
+}
+
+}  // namespace
+
+std::span<const HostPictureInfo> AllHostPictures() { return kHostPictures; }
+
+StdPicture MakeHostPicture(HostPicture which) {
+  switch (which) {
+    case HostPicture::MonochromeIcon: return StdPicture::FromIcon(NewMonochromeIcon(), true);
+    case HostPicture::InvertingIcon: return MakeIconPicture(InvertingIcon());
+    case HostPicture::AlphaRampIcon: return MakeIconPicture(AlphaRampIcon());
+    default: return StdPicture::FromBitmap(NewBitmap(which), true);
+  }
 }
 
 }  // namespace glyphon::testing

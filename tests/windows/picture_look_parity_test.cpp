@@ -6,7 +6,6 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "platform/codec/bitmap_png.h"
@@ -246,8 +245,8 @@ std::vector<ParityCase> ColourCases() {
   };
 }
 
-// Bitmaps of every format a host may hand over and the icon with every alpha level: copied with
-// a drop shadow, embossed, greyed and faded.
+// Every picture a host may hand over that the samples do not make: copied with a drop shadow,
+// embossed, greyed and faded.
 std::vector<ParityCase> HostPictureCases() {
   struct Use {
     const char* name;
@@ -262,16 +261,12 @@ std::vector<ParityCase> HostPictureCases() {
       {"Faded", zonStyleWinXPBlue, DrawStateUp,
        [](TestButton& b) { b.pictureStyle = zonPicStyleActive; }},
   };
-  std::vector<std::pair<std::string, PictureMaker>> pictures{
-      {"alpharamp", [] { return MakeAlphaRampIconPicture(); }}};
-  for (const HostBitmapInfo& info : AllHostBitmaps()) {
-    pictures.emplace_back(info.name, [id = info.id] { return MakeHostBitmapPicture(id); });
-  }
   std::vector<ParityCase> cases;
-  for (const auto& [name, make] : pictures) {
+  for (const HostPictureInfo& info : AllHostPictures()) {
     for (const Use use : kUses) {
-      cases.push_back(ButtonCase("Host_" + name + "_" + use.name, use.style, make, use.drawState,
-                                 use.setUp));
+      cases.push_back(ButtonCase(
+          "Host_" + std::string(info.name) + "_" + use.name, use.style,
+          [id = info.id] { return MakeHostPicture(id); }, use.drawState, use.setUp));
     }
   }
   return cases;
