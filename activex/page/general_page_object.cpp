@@ -77,8 +77,9 @@ STDMETHODIMP GeneralPageObject::Activate(HWND parent, LPCRECT position, BOOL /*m
   if (view_ != nullptr) return E_UNEXPECTED;
   return Guarded([&] {
     view_ = std::make_unique<PageView>(page_, parent, *position);
-    // The style question belongs to the page; the system gives it its default title.
-    page_.SetPromptOwner(reinterpret_cast<win::HWND>(view_->Window()), {});
+    // The style question comes from the page, under the component's name.
+    page_.SetPromptOwner(reinterpret_cast<win::HWND>(view_->Window()),
+                         std::string(kLibraryName));
     return S_OK;
   });
 }

@@ -11,6 +11,8 @@ namespace {
 
 // The height of a list's drop-down part below its field.
 constexpr int kDropDownHeight = 160;
+// A list's field is its item height and a 3-pixel border above and below.
+constexpr int kListFieldBorders = 6;
 
 struct NativeKind {
   const char* windowClass;
@@ -94,8 +96,11 @@ HWND CreateNativeControl(const PageControl& control, HWND parent, int id, HFONT 
                                 ModuleInstance(), nullptr);
   if (window == nullptr) throw ComFailure(HRESULT_FROM_WIN32(GetLastError()));
   SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
-  // The field itself fills the bounds: its item height is the field's less the two borders.
-  if (isList) SendMessageA(window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), fieldHeight - 6);
+  // The field itself fills the bounds.
+  if (isList) {
+    SendMessageA(window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1),
+                 fieldHeight - kListFieldBorders);
+  }
   return window;
 }
 

@@ -95,6 +95,9 @@ void PageView::Update(const PageControl& control) {
 
 bool PageView::TranslateKey(MSG& message) const {
   if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
+  // Enter and Escape belong to the frame's OK and Cancel buttons.
+  const bool dialogKey = message.wParam == VK_RETURN || message.wParam == VK_ESCAPE;
+  if (message.message == WM_KEYDOWN && dialogKey) return false;
   return IsDialogMessageA(window_, &message) != FALSE;
 }
 

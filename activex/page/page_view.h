@@ -25,7 +25,7 @@ class PageView {
   void Move(const RECT& position) const;
   void Update(const PageControl& control);
   // Tab, Shift+Tab and the labels' access keys between the page's controls; false for a message
-  // that is not for the page.
+  // that is not for the page, and for Enter and Escape, which the frame handles.
   bool TranslateKey(MSG& message) const;
 
  private:

@@ -157,6 +157,7 @@ TEST_F(PropertyPageTest, EditsMarkThePageDirtyAndApplyWritesThem) {
     PromptAnswer yes(IDYES);
     Pick(L"&Style:", 1);
     EXPECT_EQ(yes.text, L"Set all default properties for this style?");
+    EXPECT_EQ(yes.title, L"zonGlyphon");
     EXPECT_EQ(yes.owner, GetAncestor(pageWindow_, GA_ROOT));
   }
   // The Win3x defaults reached the system controls.
@@ -246,6 +247,9 @@ TEST_F(PropertyPageTest, TabAndAccessKeysMoveBetweenThePagesControls) {
   EXPECT_EQ(page_->TranslateAccelerator(&altT), S_OK);
   EXPECT_EQ(GetFocus(), ControlAfter(L"&Tag:"));
 
+  // Enter is the frame's (its OK button), as are keys for other windows.
+  MSG enter{GetFocus(), WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+  EXPECT_EQ(page_->TranslateAccelerator(&enter), S_FALSE);
   MSG elsewhere{form_.Window(), WM_KEYDOWN, VK_TAB, 0, 0, {}};
   EXPECT_EQ(page_->TranslateAccelerator(&elsewhere), S_FALSE);
 }
