@@ -36,14 +36,10 @@ NativeKind KindOf(PageControlKind kind) {
 
 void UpdateText(HWND window, const TextBox& box) {
   if (WindowText(window) != box.Text()) SetWindowTextA(window, box.Text().c_str());
-  DWORD start = 0;
-  DWORD end = 0;
-  SendMessageA(window, EM_GETSEL, reinterpret_cast<WPARAM>(&start),
-               reinterpret_cast<LPARAM>(&end));
-  const auto wantedStart = static_cast<DWORD>(box.SelStart());
-  const auto wantedEnd = static_cast<DWORD>(box.SelStart() + box.SelLength());
-  if (start != wantedStart || end != wantedEnd) {
-    SendMessageA(window, EM_SETSEL, wantedStart, static_cast<LPARAM>(wantedEnd));
+  const EditSelection selection = SelectionOf(window);
+  if (selection.start != box.SelStart() || selection.length != box.SelLength()) {
+    SendMessageA(window, EM_SETSEL, static_cast<WPARAM>(box.SelStart()),
+                 static_cast<LPARAM>(box.SelStart() + box.SelLength()));
   }
 }
 
@@ -130,6 +126,13 @@ std::string WindowText(HWND window) {
         GetWindowTextA(window, text.data(), static_cast<int>(text.size()) + 1)));
   }
   return text;
+}
+
+EditSelection SelectionOf(HWND edit) {
+  DWORD start = 0;
+  DWORD end = 0;
+  SendMessageA(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+  return {static_cast<int>(start), static_cast<int>(end - start)};
 }
 
 }  // namespace glyphon::activex

@@ -19,4 +19,10 @@ void UpdateNativeControl(HWND window, const PageControl& control);
 
 std::string WindowText(HWND window);
 
+struct EditSelection {
+  int start;
+  int length;
+};
+EditSelection SelectionOf(HWND edit);
+
 }  // namespace glyphon::activex

@@ -116,16 +116,9 @@ void PageView::OnCommand(HWND window, UINT code) {
   PageControl* control = ControlOf(window);
   if (control == nullptr) return;
   switch (control->Kind()) {
-    case PageControlKind::TextBox: {
-      auto& box = static_cast<TextBox&>(*control);
-      if (code == EN_CHANGE) {
-        ForwardingScope forwarding(forwarding_, box);
-        box.SetText(WindowText(window));
-      } else if (code == EN_KILLFOCUS) {
-        box.LostFocus();
-      }
+    case PageControlKind::TextBox:
+      OnBoxCommand(window, static_cast<TextBox&>(*control), code);
       break;
-    }
     case PageControlKind::DropDownList:
       if (code == CBN_SELCHANGE) {
         static_cast<DropDownList&>(*control).SetListIndex(
@@ -138,6 +131,21 @@ void PageView::OnCommand(HWND window, UINT code) {
       break;
     case PageControlKind::Label:
       break;
+  }
+}
+
+void PageView::OnBoxCommand(HWND window, TextBox& box, UINT code) {
+  if (code == EN_CHANGE) {
+    ForwardingScope forwarding(forwarding_, box);
+    box.SetText(WindowText(window));
+  } else if (code == EN_KILLFOCUS) {
+    {
+      // The box's handler starts from where the user left the selection.
+      ForwardingScope forwarding(forwarding_, box);
+      const EditSelection selection = SelectionOf(window);
+      box.SetSelection(selection.start, selection.length);
+    }
+    box.LostFocus();
   }
 }
 

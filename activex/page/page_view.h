@@ -36,6 +36,7 @@ class PageView {
   void CreateControls();
   PageControl* ControlOf(HWND window) const;
   void OnCommand(HWND window, UINT code);
+  void OnBoxCommand(HWND window, TextBox& box, UINT code);
   LRESULT OnBoxCharacter(HWND window, WPARAM character, LPARAM lParam);
 
   GeneralPage& page_;

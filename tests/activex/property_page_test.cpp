@@ -235,13 +235,20 @@ TEST_F(PropertyPageTest, DeactivatingDestroysTheControlsAndTheEditsOutliveThem) 
   EXPECT_EQ(page_->IsPageDirty(), S_OK);
 }
 
-TEST_F(PropertyPageTest, TabAndAccessKeysMoveBetweenThePagesControls) {
+TEST_F(PropertyPageTest, TabAndAccessKeysMoveBetweenThePagesControlsAndLeaveBoxesSelected) {
   Open(button_.Dispatch());
   HWND caption = ControlAfter(L"&Caption:");
   SetFocus(caption);
+  SendMessageW(caption, EM_SETSEL, 2, 2);
   MSG tab{caption, WM_KEYDOWN, VK_TAB, 0, 0, {}};
   EXPECT_EQ(page_->TranslateAccelerator(&tab), S_OK);
   EXPECT_EQ(GetFocus(), ControlAfter(L"&Style:"));
+  DWORD start = 1;
+  DWORD end = 0;
+  SendMessageW(caption, EM_GETSEL, reinterpret_cast<WPARAM>(&start),
+               reinterpret_cast<LPARAM>(&end));
+  EXPECT_EQ(start, 0u);
+  EXPECT_EQ(end, 8u) << "a box that is left has its whole text selected";
 
   MSG altT{GetFocus(), WM_SYSCHAR, 't', 1 << 29, 0, {}};
   EXPECT_EQ(page_->TranslateAccelerator(&altT), S_OK);
