@@ -3,7 +3,7 @@
 #include <atomic>
 
 #include "activex/class_factory.h"
-#include "activex/guids.h"
+#include "activex/page/page_view.h"
 #include "activex/parking_window.h"
 #include "activex/type_library.h"
 #include "control/host/host_windows.h"
@@ -54,14 +54,16 @@ extern "C" HRESULT __stdcall DllGetClassObject(REFCLSID classId, REFIID interfac
                                                 void** object) {
   if (object == nullptr) return E_POINTER;
   *object = nullptr;
-  if (!IsEqualCLSID(classId, kGlyphonClassId)) return CLASS_E_CLASSNOTAVAILABLE;
-  return GlyphonClassFactory().QueryInterface(interfaceId, object);
+  IClassFactory* factory = FindClassFactory(classId);
+  if (factory == nullptr) return CLASS_E_CLASSNOTAVAILABLE;
+  return factory->QueryInterface(interfaceId, object);
 }
 
 extern "C" HRESULT __stdcall DllCanUnloadNow() {
   if (ModuleInUse()) return S_FALSE;
   ReleaseTypeLibrary();
   UnregisterParkingWindowClass();
+  UnregisterPageWindowClass();
   glyphon::UnregisterHostWindowClasses();
   return S_OK;
 }

@@ -2,6 +2,7 @@
 // through the control's own getters and setters. The control's errors reach the client as
 // DISP_E_EXCEPTION with their number, source and description.
 #include "activex/com_error.h"
+#include "activex/error_info.h"
 #include "activex/glyphon_object.h"
 #include "activex/guids.h"
 #include "activex/text.h"
@@ -27,23 +28,14 @@ bool Writable(const MemberInfo& member) {
 }
 
 // Fills the client's exception record and the thread's error object.
-HRESULT ReportError(const AutomationError& error, EXCEPINFO* exception) {
+HRESULT ReportException(const AutomationError& error, EXCEPINFO* exception) {
   if (exception != nullptr) {
     *exception = EXCEPINFO{};
     exception->bstrSource = MakeBstr(error.Source());
     exception->bstrDescription = MakeBstr(error.Description());
     exception->scode = error.Number();
   }
-  ComPtr<ICreateErrorInfo> created;
-  if (SUCCEEDED(CreateErrorInfo(created.GetAddressOf()))) {
-    const std::wstring source = Widen(error.Source());
-    const std::wstring description = Widen(error.Description());
-    created->SetGUID(kGlyphonDispatchId);
-    created->SetSource(const_cast<LPOLESTR>(source.c_str()));
-    created->SetDescription(const_cast<LPOLESTR>(description.c_str()));
-    ComPtr<IErrorInfo> info;
-    if (SUCCEEDED(created.As(&info))) SetErrorInfo(0, info.Get());
-  }
+  SetThreadErrorInfo(error, kGlyphonDispatchId);
   return DISP_E_EXCEPTION;
 }
 
@@ -84,7 +76,7 @@ STDMETHODIMP GlyphonObject::Invoke(DISPID id, REFIID interfaceId, LCID /*locale*
     try {
       return InvokeMember(*member, flags, *parameters, result, argumentError);
     } catch (const AutomationError& error) {
-      return ReportError(error, exception);
+      return ReportException(error, exception);
     }
   });
 }

@@ -1,5 +1,6 @@
-// DllRegisterServer and DllUnregisterServer: the class, its programmatic identifier and the type
-// library, which is made from the metadata table and written beside the DLL.
+// DllRegisterServer and DllUnregisterServer: the control class, its programmatic identifier, its
+// property page and the type library, which is made from the metadata table and written beside
+// the DLL.
 #include "activex/registration.h"
 
 #include <string>
@@ -38,7 +39,14 @@ void SetValue(const std::wstring& key, const wchar_t* name, const std::wstring& 
 
 void DeleteTree(const std::wstring& key) { RegDeleteTreeW(HKEY_CLASSES_ROOT, key.c_str()); }
 
-std::wstring ClassKey() { return L"CLSID\\" + GuidText(kGlyphonClassId); }
+std::wstring ClassKey(REFCLSID classId) { return L"CLSID\\" + GuidText(classId); }
+
+// A class served by this DLL; everything runs on the thread of the host's user interface.
+void RegisterInprocClass(const std::wstring& key, const wchar_t* typeName) {
+  SetValue(key, nullptr, typeName);
+  SetValue(key + L"\\InprocServer32", nullptr, ModulePath());
+  SetValue(key + L"\\InprocServer32", L"ThreadingModel", L"Apartment");
+}
 
 std::wstring TypeLibraryPath() {
   std::wstring path = ModulePath();
@@ -60,11 +68,8 @@ void RegisterControlClass() {
   SetValue(progId, nullptr, kUserTypeName);
   SetValue(progId + L"\\CLSID", nullptr, classId);
 
-  const std::wstring key = ClassKey();
-  SetValue(key, nullptr, kUserTypeName);
-  SetValue(key + L"\\InprocServer32", nullptr, ModulePath());
-  // Everything runs on the thread of the host's user interface.
-  SetValue(key + L"\\InprocServer32", L"ThreadingModel", L"Apartment");
+  const std::wstring key = ClassKey(kGlyphonClassId);
+  RegisterInprocClass(key, kUserTypeName);
   SetValue(key + L"\\ProgID", nullptr, progId);
   SetValue(key + L"\\Control", nullptr, L"");
   SetValue(key + L"\\MiscStatus", nullptr, L"0");
@@ -85,6 +90,7 @@ extern "C" HRESULT __stdcall DllRegisterServer() {
   return Guarded([] {
     RegisterTypeLibrary();
     RegisterControlClass();
+    RegisterInprocClass(ClassKey(kGeneralPageClassId), kGeneralPageTypeName);
     return S_OK;
   });
 }
@@ -93,7 +99,8 @@ extern "C" HRESULT __stdcall DllRegisterServer() {
 extern "C" HRESULT __stdcall DllUnregisterServer() {
   return Guarded([] {
     DeleteTree(Widen(glyphon::kProgId));
-    DeleteTree(ClassKey());
+    DeleteTree(ClassKey(kGlyphonClassId));
+    DeleteTree(ClassKey(kGeneralPageClassId));
     UnRegisterTypeLib(kLibraryId, kLibraryMajorVersion, kLibraryMinorVersion, LOCALE_NEUTRAL,
                       kTypeLibrarySystem);
     DeleteFileW(TypeLibraryPath().c_str());

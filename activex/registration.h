@@ -1,4 +1,4 @@
-// What registration tells the system about the control class.
+// What registration tells the system about the control class and its property page.
 #pragma once
 
 #include "activex/windows_api.h"
@@ -12,5 +12,6 @@ inline constexpr DWORD kMiscStatus = OLEMISC_RECOMPOSEONRESIZE | OLEMISC_CANTLIN
                                      OLEMISC_SETCLIENTSITEFIRST | OLEMISC_ACTSLIKEBUTTON;
 
 inline constexpr const wchar_t* kUserTypeName = L"Glyphon Control";
+inline constexpr const wchar_t* kGeneralPageTypeName = L"Glyphon General Property Page";
 
 }  // namespace glyphon::activex

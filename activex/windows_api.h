@@ -1,6 +1,7 @@
-// The Windows and OLE headers of the ActiveX layer. The control's headers come first: windows.h
-// defines macros (TRUE, FW_BOLD, RGB, ...) that would rewrite the platform's declarations and
-// inline code of the same names, so every activex file includes Windows through this header.
+// The Windows and OLE headers of the ActiveX layer. The control's and the property page's headers
+// come first: windows.h defines macros (TRUE, FW_BOLD, RGB, ...) that would rewrite the
+// platform's declarations and inline code of the same names, so every activex file includes
+// Windows through this header.
 #pragma once
 
 #include "control/glyphon.h"
@@ -8,6 +9,7 @@
 #include "control/host/control_site.h"
 #include "control/host/hosted_control.h"
 #include "control/host/property_bag.h"
+#include "propertypage/general_page.h"
 
 #ifndef NOMINMAX
 #define NOMINMAX

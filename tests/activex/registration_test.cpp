@@ -14,6 +14,9 @@ namespace {
 
 using Microsoft::WRL::ComPtr;
 
+// The General property page's class, which saved forms and the control's page list name.
+constexpr const wchar_t* kGeneralPageKey = L"CLSID\\{1DE2C4EE-CD7D-4981-9676-5F2C66DC6652}";
+
 std::wstring ClassIdText() {
   CLSID classId{};
   if (FAILED(CLSIDFromProgID(L"zonGlyphon.Glyphon", &classId))) return {};
@@ -52,7 +55,7 @@ ComPtr<ITypeInfo> TypeInfoNamed(ITypeLib& library, const wchar_t* name) {
   return found == 1 ? info : nullptr;
 }
 
-TEST(Registration, ClassProgIdControlAndThreadingKeys) {
+TEST(Registration, ClassProgIdControlThreadingAndPageKeys) {
   const std::wstring classId = ClassIdText();
   ASSERT_FALSE(classId.empty()) << "zonGlyphon.Glyphon is not registered";
   const std::wstring key = L"CLSID\\" + classId;
@@ -62,6 +65,11 @@ TEST(Registration, ClassProgIdControlAndThreadingKeys) {
   EXPECT_TRUE(KeyExists(key + L"\\Control"));
   EXPECT_NE(ReadValue(key + L"\\MiscStatus\\1"), L"<missing>");
   EXPECT_EQ(ReadValue(L"zonGlyphon.Glyphon\\CLSID"), classId);
+
+  EXPECT_EQ(ReadValue(std::wstring(kGeneralPageKey) + L"\\InprocServer32"),
+            ReadValue(key + L"\\InprocServer32"));
+  EXPECT_EQ(ReadValue(std::wstring(kGeneralPageKey) + L"\\InprocServer32", L"ThreadingModel"),
+            L"Apartment");
 }
 
 // The registered type library says what the metadata table says, member by member.
@@ -146,7 +154,7 @@ int RunRegsvr32(const std::wstring& arguments) {
   return static_cast<int>(code);
 }
 
-TEST(Registration, UnregistrationRemovesTheClassAndTheLibrary) {
+TEST(Registration, UnregistrationRemovesTheClassesAndTheLibrary) {
   const std::wstring classId = ClassIdText();
   ASSERT_FALSE(classId.empty());
   const std::wstring dll = ReadValue(L"CLSID\\" + classId + L"\\InprocServer32");
@@ -157,6 +165,7 @@ TEST(Registration, UnregistrationRemovesTheClassAndTheLibrary) {
   ASSERT_EQ(RunRegsvr32(L"/u \"" + dll + L"\""), 0);
   EXPECT_FALSE(KeyExists(L"CLSID\\" + classId));
   EXPECT_FALSE(KeyExists(L"zonGlyphon.Glyphon"));
+  EXPECT_FALSE(KeyExists(kGeneralPageKey));
   EXPECT_FALSE(KeyExists(libraryKey));
   CLSID unused{};
   EXPECT_HRESULT_FAILED(CLSIDFromProgID(L"zonGlyphon.Glyphon", &unused));
@@ -164,6 +173,7 @@ TEST(Registration, UnregistrationRemovesTheClassAndTheLibrary) {
   // The rest of the run needs the control again.
   ASSERT_EQ(RunRegsvr32(L"\"" + dll + L"\""), 0);
   EXPECT_EQ(ClassIdText(), classId);
+  EXPECT_TRUE(KeyExists(kGeneralPageKey));
 }
 
 }  // namespace
