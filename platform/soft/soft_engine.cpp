@@ -194,27 +194,4 @@ void SoftEngine::SetScreenSize(int width, int height) {
   if (screen) screen_ = std::move(screen);
 }
 
-DcObject* SoftEngine::Dc(HDC hdc) const {
-  return objects_.Find<DcObject>(reinterpret_cast<std::uintptr_t>(hdc), ObjectKind::Dc);
-}
-BitmapObject* SoftEngine::Bitmap(HBITMAP bitmap) const {
-  return objects_.Find<BitmapObject>(reinterpret_cast<std::uintptr_t>(bitmap), ObjectKind::Bitmap);
-}
-PenObject* SoftEngine::Pen(HPEN pen) const {
-  return objects_.Find<PenObject>(reinterpret_cast<std::uintptr_t>(pen), ObjectKind::Pen);
-}
-BrushObject* SoftEngine::Brush(HBRUSH brush) const {
-  return objects_.Find<BrushObject>(reinterpret_cast<std::uintptr_t>(brush), ObjectKind::Brush);
-}
-FontObject* SoftEngine::Font(HFONT font) const {
-  return objects_.Find<FontObject>(reinterpret_cast<std::uintptr_t>(font), ObjectKind::Font);
-}
-PaletteObject* SoftEngine::Palette(HPALETTE palette) const {
-  return objects_.Find<PaletteObject>(reinterpret_cast<std::uintptr_t>(palette),
-                                      ObjectKind::Palette);
-}
-IconObject* SoftEngine::Icon(HICON icon) const {
-  return objects_.Find<IconObject>(reinterpret_cast<std::uintptr_t>(icon), ObjectKind::Icon);
-}
-
 }  // namespace glyphon::win::soft

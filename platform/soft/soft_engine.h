@@ -48,13 +48,18 @@ class SoftEngine final : public Engine {
   // ---- Internals shared by the engine's parts ----
 
   ObjectTable& Objects() { return objects_; }
-  DcObject* Dc(HDC hdc) const;
-  BitmapObject* Bitmap(HBITMAP bitmap) const;
-  PenObject* Pen(HPEN pen) const;
-  BrushObject* Brush(HBRUSH brush) const;
-  FontObject* Font(HFONT font) const;
-  PaletteObject* Palette(HPALETTE palette) const;
-  IconObject* Icon(HICON icon) const;
+  // Inline: every platform call looks up one or more of its handles.
+  DcObject* Dc(HDC hdc) const { return Typed<DcObject>(hdc, ObjectKind::Dc); }
+  BitmapObject* Bitmap(HBITMAP bitmap) const {
+    return Typed<BitmapObject>(bitmap, ObjectKind::Bitmap);
+  }
+  PenObject* Pen(HPEN pen) const { return Typed<PenObject>(pen, ObjectKind::Pen); }
+  BrushObject* Brush(HBRUSH brush) const { return Typed<BrushObject>(brush, ObjectKind::Brush); }
+  FontObject* Font(HFONT font) const { return Typed<FontObject>(font, ObjectKind::Font); }
+  PaletteObject* Palette(HPALETTE palette) const {
+    return Typed<PaletteObject>(palette, ObjectKind::Palette);
+  }
+  IconObject* Icon(HICON icon) const { return Typed<IconObject>(icon, ObjectKind::Icon); }
 
   // Adds a record to the handle table and returns its handle (null when the table is full).
   template <class Handle>
@@ -73,6 +78,11 @@ class SoftEngine final : public Engine {
   UserSystem& User() { return *user_; }
 
  private:
+  template <class T>
+  T* Typed(const void* handle, ObjectKind kind) const {
+    return objects_.Find<T>(reinterpret_cast<std::uintptr_t>(handle), kind);
+  }
+
   void CreateStockObjects();
   HGDIOBJ SelectInto(Object& record, HGDIOBJ& slot, HGDIOBJ object);
   void SelectStock(HGDIOBJ& slot, HGDIOBJ object);
