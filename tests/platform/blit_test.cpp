@@ -1,11 +1,15 @@
 #include <gtest/gtest.h>
 
-#include "tests/platform/blit_surfaces.h"
+#include "tests/platform/memory_surface.h"
+#include "tests/support/gdi_scope.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon::win {
 namespace {
 
+using testing::MemorySurface;
+using testing::Owned;
+using testing::Selected;
 using Values = std::vector<std::uint32_t>;
 
 constexpr std::uint32_t kRed = 0xFF0000, kGreen = 0x00FF00, kBlue = 0x0000FF;
@@ -20,10 +24,8 @@ constexpr RGBQUAD Quad(std::uint32_t rgb) {
 HBRUSH MonoPatternBrush(std::uint8_t bits) {
   std::uint8_t rows[16] = {};
   for (int y = 0; y < 8; ++y) rows[y * 2] = bits;
-  HBITMAP pattern = CreateBitmap(8, 8, 1, 1, rows);
-  HBRUSH brush = CreatePatternBrush(pattern);
-  DeleteObject(pattern);
-  return brush;
+  Owned pattern{CreateBitmap(8, 8, 1, 1, rows)};
+  return CreatePatternBrush(pattern);
 }
 
 Values Bits(std::uint8_t byte) {
@@ -39,52 +41,18 @@ TEST(Blit, EveryRop3CodeFollowsItsTruthTableOnMonochromeBitmaps) {
   MemorySurface source(8, 1, 1);
   source.Set(Bits(0xCC));
   MemorySurface destination(8, 1, 1);
-  HBRUSH pattern = MonoPatternBrush(0xF0);
-  HGDIOBJ oldBrush = SelectObject(destination.dc(), pattern);
+  Owned pattern{MonoPatternBrush(0xF0)};
+  Selected selected(destination.dc(), pattern);
   for (unsigned index = 0; index < 256; ++index) {
     destination.Set(Bits(0xAA));
     ASSERT_TRUE(BitBlt(destination.dc(), 0, 0, 8, 1, source.dc(), 0, 0, index << 16));
     ASSERT_EQ(destination.Get(), Bits(static_cast<std::uint8_t>(index))) << "index " << index;
   }
-  SelectObject(destination.dc(), oldBrush);
-  DeleteObject(pattern);
-}
-
-TEST(Blit, TheCodesPaintingUsesCombineMonochromeBitsExactly) {
-  testing::LeakCheck leaks;
-  MemorySurface source(4, 1, 1);
-  MemorySurface destination(4, 1, 1);
-  source.Set({1, 1, 0, 0});
-  const struct {
-    DWORD rop;
-    Values expected;
-  } cases[] = {
-      {SRCCOPY, {1, 1, 0, 0}},    {SRCAND, {1, 0, 0, 0}},    {SRCPAINT, {1, 1, 1, 0}},
-      {0x00220326, {0, 0, 1, 0}}, {SRCINVERT, {0, 1, 1, 0}}, {NOTSRCCOPY, {0, 0, 1, 1}},
-      {DSTINVERT, {0, 1, 0, 1}},  {BLACKNESS, {0, 0, 0, 0}}, {WHITENESS, {1, 1, 1, 1}},
-  };
-  for (const auto& c : cases) {
-    destination.Set({1, 0, 1, 0});
-    EXPECT_TRUE(BitBlt(destination.dc(), 0, 0, 4, 1, source.dc(), 0, 0, c.rop));
-    EXPECT_EQ(destination.Get(), c.expected) << std::hex << c.rop;
-  }
-  // Pattern codes with a black (0) brush.
-  HGDIOBJ oldBrush = SelectObject(destination.dc(), GetStockObject(BLACK_BRUSH));
-  const struct {
-    DWORD rop;
-    Values expected;
-  } patternCases[] = {
-      {PATCOPY, {0, 0, 0, 0}},
-      {PATINVERT, {1, 0, 1, 0}},
-      {0x00B8074A, {1, 0, 0, 0}},  // source ? destination : pattern
-      {0x00E20746, {0, 0, 1, 0}},  // source ? pattern : destination
-  };
-  for (const auto& c : patternCases) {
-    destination.Set({1, 0, 1, 0});
-    EXPECT_TRUE(BitBlt(destination.dc(), 0, 0, 4, 1, source.dc(), 0, 0, c.rop));
-    EXPECT_EQ(destination.Get(), c.expected) << std::hex << c.rop;
-  }
-  SelectObject(destination.dc(), oldBrush);
+  // A solid brush is a pattern too: source ? destination : pattern, with black.
+  Selected black(destination.dc(), GetStockObject(BLACK_BRUSH));
+  destination.Set(Bits(0xAA));
+  ASSERT_TRUE(BitBlt(destination.dc(), 0, 0, 8, 1, source.dc(), 0, 0, 0x00B8074A));
+  EXPECT_EQ(destination.Get(), Bits(0x88));
 }
 
 TEST(Blit, ColorToMonochromeMatchesTheSourceBackground) {
@@ -146,9 +114,8 @@ TEST(Blit, OneBitSectionsUseTheirColorTables) {
 
 TEST(Blit, TransparentCopyThroughAMonochromeMask) {
   testing::LeakCheck leaks;
-  const std::uint32_t key = kMagenta;
   MemorySurface image(4, 1, 32);
-  image.Set({kRed, key, kGreen, key});
+  image.Set({kRed, kMagenta, kGreen, kMagenta});
   MemorySurface background(4, 1, 32);
   background.Set({kBlue, kBlue, kWhite, kWhite});
   MemorySurface mask(4, 1, 1);
@@ -183,7 +150,7 @@ TEST(Blit, TwentyFourAndThirtyTwoBitSurfacesConvertBothWays) {
   EXPECT_EQ(other.Get()[0], 0xAA000001u);
 }
 
-TEST(Blit, BothSidesAreClipped) {
+TEST(Blit, BothSidesAreClippedAndOverlappingCopiesWithinOneSurfaceWork) {
   testing::LeakCheck leaks;
   MemorySurface source(4, 1, 32);
   source.Set({1, 2, 3, 4});
@@ -198,10 +165,7 @@ TEST(Blit, BothSidesAreClipped) {
   EXPECT_TRUE(BitBlt(destination.dc(), 7, 0, 4, 1, source.dc(), 0, 0, SRCCOPY));
   EXPECT_TRUE(BitBlt(destination.dc(), 0, 0, 4, 1, source.dc(), 0, 5, SRCCOPY));
   EXPECT_EQ(destination.Get(), (Values{9, 9, 9, 1, 2}));
-}
 
-TEST(Blit, OverlappingCopiesWithinOneSurface) {
-  testing::LeakCheck leaks;
   MemorySurface s(4, 3, 32);
   s.Set({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
   ASSERT_TRUE(BitBlt(s.dc(), 1, 0, 3, 3, s.dc(), 0, 0, SRCCOPY));
@@ -212,28 +176,37 @@ TEST(Blit, OverlappingCopiesWithinOneSurface) {
   EXPECT_EQ(s.Get(), (Values{0, 0, 0, 0, 1 ^ 5, 1 ^ 5, 2 ^ 6, 3 ^ 7, 5, 5, 6, 7}));
 }
 
-TEST(Blit, StretchGrowsShrinksAndMirrors) {
+TEST(Blit, StretchGrowsShrinksByTheModeAndMirrors) {
   testing::LeakCheck leaks;
   MemorySurface source(4, 2, 32);
   source.Set({0x0F, 0xF0, 0x3C, 0xC3, 0x11, 0x22, 0x44, 0x88});
-  MemorySurface wide(8, 1, 32);
-  ASSERT_TRUE(StretchBlt(wide.dc(), 0, 0, 8, 1, source.dc(), 0, 0, 4, 1, SRCCOPY));
-  EXPECT_EQ(wide.Get(), (Values{0x0F, 0x0F, 0xF0, 0xF0, 0x3C, 0x3C, 0xC3, 0xC3}));
+  // Shrinking merges pixels by the stretch mode: AND by default (mode 0 here), OR, or one of
+  // them kept (the last across a row, the first down a column).
+  const struct {
+    int mode, width, height, sourceWidth, sourceHeight;
+    Values expected;
+  } cases[] = {
+      {0, 8, 1, 4, 1, {0x0F, 0x0F, 0xF0, 0xF0, 0x3C, 0x3C, 0xC3, 0xC3}},
+      {0, 2, 1, 4, 1, {0x00, 0x00}},
+      {WHITEONBLACK, 2, 1, 4, 1, {0xFF, 0xFF}},
+      {COLORONCOLOR, 2, 1, 4, 1, {0xF0, 0xC3}},
+      {COLORONCOLOR, 1, 1, 1, 2, {0x0F}},
+  };
+  for (const auto& c : cases) {
+    MemorySurface destination(c.width, c.height, 32);
+    if (c.mode != 0) SetStretchBltMode(destination.dc(), c.mode);
+    ASSERT_TRUE(StretchBlt(destination.dc(), 0, 0, c.width, c.height, source.dc(), 0, 0,
+                           c.sourceWidth, c.sourceHeight, SRCCOPY));
+    EXPECT_EQ(destination.Get(), c.expected) << "mode " << c.mode << ", " << c.width;
+  }
 
-  // Shrinking merges pixels by the stretch mode: AND by default, OR, or one of them kept.
-  MemorySurface narrow(2, 1, 32);
-  ASSERT_TRUE(StretchBlt(narrow.dc(), 0, 0, 2, 1, source.dc(), 0, 0, 4, 1, SRCCOPY));
-  EXPECT_EQ(narrow.Get(), (Values{0x00, 0x00}));
-  SetStretchBltMode(narrow.dc(), WHITEONBLACK);
-  ASSERT_TRUE(StretchBlt(narrow.dc(), 0, 0, 2, 1, source.dc(), 0, 0, 4, 1, SRCCOPY));
-  EXPECT_EQ(narrow.Get(), (Values{0xFF, 0xFF}));
-  SetStretchBltMode(narrow.dc(), COLORONCOLOR);
-  ASSERT_TRUE(StretchBlt(narrow.dc(), 0, 0, 2, 1, source.dc(), 0, 0, 4, 1, SRCCOPY));
-  EXPECT_EQ(narrow.Get(), (Values{0xF0, 0xC3}));  // across a row the last pixel wins
-  MemorySurface low(1, 1, 32);
-  SetStretchBltMode(low.dc(), COLORONCOLOR);
-  ASSERT_TRUE(StretchBlt(low.dc(), 0, 0, 1, 1, source.dc(), 0, 0, 1, 2, SRCCOPY));
-  EXPECT_EQ(low.Get(), (Values{0x0F}));  // down a column the first row wins
+  // HALFTONE interpolates.
+  MemorySurface ramp(2, 1, 32);
+  ramp.Set({0x000000, 0xFFFFFF});
+  MemorySurface halftone(4, 1, 32);
+  SetStretchBltMode(halftone.dc(), HALFTONE);
+  ASSERT_TRUE(StretchBlt(halftone.dc(), 0, 0, 4, 1, ramp.dc(), 0, 0, 2, 1, SRCCOPY));
+  EXPECT_EQ(halftone.Get(), (Values{0x000000, 0x808080, 0xFFFFFF, 0xFFFFFF}));
 
   // A negative extent on either side mirrors.
   MemorySurface mirrored(4, 1, 32);
@@ -247,32 +220,20 @@ TEST(Blit, StretchGrowsShrinksAndMirrors) {
   EXPECT_EQ(flipped.Get(), (Values{0x11, 0x22, 0x44, 0x88, 0x0F, 0xF0, 0x3C, 0xC3}));
 }
 
-TEST(Blit, HalftoneInterpolatesColors) {
-  testing::LeakCheck leaks;
-  MemorySurface source(2, 1, 32);
-  source.Set({0x000000, 0xFFFFFF});
-  MemorySurface destination(4, 1, 32);
-  SetStretchBltMode(destination.dc(), HALFTONE);
-  ASSERT_TRUE(StretchBlt(destination.dc(), 0, 0, 4, 1, source.dc(), 0, 0, 2, 1, SRCCOPY));
-  EXPECT_EQ(destination.Get(), (Values{0x000000, 0x808080, 0xFFFFFF, 0xFFFFFF}));
-}
-
 TEST(Blit, PatBltFillsWithTheBrushAndNeedsNoSource) {
   testing::LeakCheck leaks;
   MemorySurface s(4, 1, 32);
-  HBRUSH red = CreateSolidBrush(RGB(255, 0, 0));
-  HGDIOBJ old = SelectObject(s.dc(), red);
+  Owned red{CreateSolidBrush(RGB(255, 0, 0))};
+  Selected selected(s.dc(), red);
   EXPECT_TRUE(PatBlt(s.dc(), 1, 0, 2, 1, PATCOPY));
   EXPECT_EQ(s.Get(), (Values{0, kRed, kRed, 0}));
   EXPECT_TRUE(PatBlt(s.dc(), 3, 0, -2, 1, PATINVERT));  // covers pixels 2 and 3
   EXPECT_EQ(s.Get(), (Values{0, kRed, 0, kRed}));
   EXPECT_FALSE(PatBlt(s.dc(), 0, 0, 4, 1, SRCCOPY));
-  SelectObject(s.dc(), GetStockObject(NULL_BRUSH));
+  Selected none(s.dc(), GetStockObject(NULL_BRUSH));
   EXPECT_TRUE(PatBlt(s.dc(), 0, 0, 4, 1, PATCOPY));    // a null brush paints nothing
   EXPECT_TRUE(PatBlt(s.dc(), 0, 0, 1, 1, DSTINVERT));  // but codes without pattern still apply
   EXPECT_EQ(s.Get(), (Values{0xFFFFFFFF, kRed, 0, kRed}));
-  SelectObject(s.dc(), old);
-  DeleteObject(red);
 }
 
 TEST(Blit, DeletedAndInvalidHandlesAreRefused) {

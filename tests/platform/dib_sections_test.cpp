@@ -5,10 +5,14 @@
 #include <vector>
 
 #include "platform/win32.h"
+#include "tests/support/gdi_scope.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon::win {
 namespace {
+
+using testing::Owned;
+using testing::Selected;
 
 // A BITMAPINFO with room for a full colour table.
 struct Info {
@@ -19,8 +23,8 @@ struct Info {
 
 Info Header(int width, int height, int bits) {
   Info info;
-  info.header = {
-      sizeof(BITMAPINFOHEADER), width, height, 1, static_cast<WORD>(bits), BI_RGB, 0, 0, 0, 0, 0};
+  info.header = {sizeof(BITMAPINFOHEADER), width, height, 1, static_cast<WORD>(bits), BI_RGB, 0,
+                 0, 0, 0, 0};
   return info;
 }
 
@@ -32,11 +36,10 @@ constexpr RGBQUAD Quad(int r, int g, int b) {
 std::vector<std::uint32_t> Read32(HBITMAP bitmap, int width, int height) {
   Info info = Header(width, -height, 32);
   std::vector<std::uint32_t> pixels(static_cast<std::size_t>(width) * height);
-  HDC dc = CreateCompatibleDC(nullptr);
+  Owned dc{CreateCompatibleDC(nullptr)};
   EXPECT_EQ(GetDIBits(dc, bitmap, 0, static_cast<UINT>(height), pixels.data(), info.get(),
                       DIB_RGB_COLORS),
             height);
-  DeleteDC(dc);
   for (auto& p : pixels) p &= 0xFFFFFF;
   return pixels;
 }
@@ -46,16 +49,14 @@ TEST(DibSections, TwentyFourBitRowsFollowTheHeightSign) {
   for (const int height : {2, -2}) {
     Info info = Header(2, height, 24);
     void* bits = nullptr;
-    HBITMAP dib = CreateDIBSection(nullptr, info.get(), DIB_RGB_COLORS, &bits, nullptr, 0);
+    Owned dib{CreateDIBSection(nullptr, info.get(), DIB_RGB_COLORS, &bits, nullptr, 0)};
     ASSERT_NE(dib, nullptr);
-    auto* bytes = static_cast<std::uint8_t*>(bits);
     // First row in memory: blue, green, red bytes of pure red; the second row stays black.
-    bytes[2] = 0xFF;
+    static_cast<std::uint8_t*>(bits)[2] = 0xFF;
     const auto pixels = Read32(dib, 2, 2);
     const std::size_t redIndex = height > 0 ? 2 : 0;  // bottom-up: memory starts at the bottom
     EXPECT_EQ(pixels[redIndex], 0xFF0000u) << "height " << height;
     EXPECT_EQ(pixels[2 - redIndex], 0u);
-    DeleteObject(dib);
   }
 }
 
@@ -65,7 +66,7 @@ TEST(DibSections, GetObjectDescribesStrideAndPositiveHeight) {
   for (int width = 1; width <= 5; ++width) {
     Info info = Header(width, -3, 24);
     void* bits = nullptr;
-    HBITMAP dib = CreateDIBSection(nullptr, info.get(), DIB_RGB_COLORS, &bits, nullptr, 0);
+    Owned dib{CreateDIBSection(nullptr, info.get(), DIB_RGB_COLORS, &bits, nullptr, 0)};
     DIBSECTION section{};
     ASSERT_EQ(GetObjectA(dib, sizeof section, &section), static_cast<int>(sizeof section));
     EXPECT_EQ(section.dsBm.bmWidthBytes, expectedStride[width - 1]);
@@ -73,7 +74,6 @@ TEST(DibSections, GetObjectDescribesStrideAndPositiveHeight) {
     EXPECT_EQ(section.dsBmih.biHeight, 3);
     EXPECT_EQ(section.dsBmih.biSizeImage, static_cast<DWORD>(3 * expectedStride[width - 1]));
     EXPECT_EQ(GetObjectA(dib, 0, nullptr), static_cast<int>(sizeof(BITMAP)));
-    DeleteObject(dib);
   }
 }
 
@@ -83,41 +83,36 @@ TEST(DibSections, OneBitSectionShowsItsColorTable) {
   info.colors[0] = Quad(255, 0, 0);
   info.colors[1] = Quad(0, 0, 255);
   void* bits = nullptr;
-  HBITMAP dib = CreateDIBSection(nullptr, info.get(), DIB_RGB_COLORS, &bits, nullptr, 0);
+  Owned dib{CreateDIBSection(nullptr, info.get(), DIB_RGB_COLORS, &bits, nullptr, 0)};
   ASSERT_NE(dib, nullptr);
   static_cast<std::uint8_t*>(bits)[0] = 0b0100'0000;
   EXPECT_EQ(Read32(dib, 3, 1), (std::vector<std::uint32_t>{0xFF0000, 0x0000FF, 0xFF0000}));
 
-  HDC dc = CreateCompatibleDC(nullptr);
+  Owned dc{CreateCompatibleDC(nullptr)};
   RGBQUAD table[4]{};
   EXPECT_EQ(GetDIBColorTable(dc, 0, 2, table), 0u);  // the stock bitmap has no table
-  HGDIOBJ old = SelectObject(dc, dib);
+  Selected selected(dc, dib);
   ASSERT_EQ(GetDIBColorTable(dc, 0, 4, table), 2u);
   EXPECT_EQ(table[1].rgbBlue, 255);
   const RGBQUAD green = Quad(0, 255, 0);
   EXPECT_EQ(SetDIBColorTable(dc, 1, 5, &green), 1u);
   EXPECT_EQ(SetDIBColorTable(dc, 2, 1, &green), 0u);
   EXPECT_EQ(Read32(dib, 3, 1), (std::vector<std::uint32_t>{0xFF0000, 0x00FF00, 0xFF0000}));
-  SelectObject(dc, old);
-  DeleteDC(dc);
-  DeleteObject(dib);
 }
 
 TEST(DibSections, PaletteIndexTableComesFromTheDcPalette) {
   testing::LeakCheck leaks;
-  HDC dc = CreateCompatibleDC(nullptr);
+  Owned dc{CreateCompatibleDC(nullptr)};
   Info info = Header(1, 1, 8);
   info.header.biClrUsed = 2;
   const WORD indices[2] = {13, 19};  // red and white of the default palette
   std::memcpy(info.colors, indices, sizeof indices);
   void* bits = nullptr;
-  HBITMAP dib = CreateDIBSection(dc, info.get(), DIB_PAL_COLORS, &bits, nullptr, 0);
+  Owned dib{CreateDIBSection(dc, info.get(), DIB_PAL_COLORS, &bits, nullptr, 0)};
   ASSERT_NE(dib, nullptr);
   EXPECT_EQ(Read32(dib, 1, 1)[0], 0xFF0000u);
   static_cast<std::uint8_t*>(bits)[0] = 1;
   EXPECT_EQ(Read32(dib, 1, 1)[0], 0xFFFFFFu);
-  DeleteObject(dib);
-  DeleteDC(dc);
 }
 
 TEST(DibSections, CompatibleBitmapOfADibDcIsADibOfTheSameFormat) {
@@ -125,10 +120,10 @@ TEST(DibSections, CompatibleBitmapOfADibDcIsADibOfTheSameFormat) {
   Info info = Header(4, 3, 1);
   info.colors[0] = Quad(10, 20, 30);
   info.colors[1] = Quad(200, 100, 50);
-  HBITMAP section = CreateDIBSection(nullptr, info.get(), DIB_RGB_COLORS, nullptr, nullptr, 0);
-  HDC dc = CreateCompatibleDC(nullptr);
-  HGDIOBJ original = SelectObject(dc, section);
-  HBITMAP made = CreateCompatibleBitmap(dc, 7, 5);
+  Owned section{CreateDIBSection(nullptr, info.get(), DIB_RGB_COLORS, nullptr, nullptr, 0)};
+  Owned dc{CreateCompatibleDC(nullptr)};
+  Selected selected(dc, section);
+  Owned made{CreateCompatibleBitmap(dc, 7, 5)};
   DIBSECTION description{};
   ASSERT_EQ(GetObjectA(made, sizeof description, &description),
             static_cast<int>(sizeof description));
@@ -136,14 +131,9 @@ TEST(DibSections, CompatibleBitmapOfADibDcIsADibOfTheSameFormat) {
   EXPECT_EQ(description.dsBm.bmWidth, 7);
   EXPECT_EQ(description.dsBm.bmHeight, 5);
   RGBQUAD colors[2]{};
-  HGDIOBJ previous = SelectObject(dc, made);
+  Selected again(dc, made);
   ASSERT_EQ(GetDIBColorTable(dc, 0, 2, colors), 2u);
   EXPECT_EQ(colors[1].rgbRed, 200);
-  SelectObject(dc, previous);
-  SelectObject(dc, original);
-  DeleteObject(made);
-  DeleteObject(section);
-  DeleteDC(dc);
 }
 
 TEST(DibSections, RefusedFormatsAndSizesGiveNoHandle) {
@@ -154,11 +144,11 @@ TEST(DibSections, RefusedFormatsAndSizesGiveNoHandle) {
     EXPECT_EQ(bits, nullptr);
     return dib;
   };
-  EXPECT_EQ(create(Header(0, 1, 24)), nullptr);
-  EXPECT_EQ(create(Header(1, 0, 24)), nullptr);
-  EXPECT_EQ(create(Header(1, 1, 16)), nullptr);
-  EXPECT_EQ(create(Header(16385, 1, 1)), nullptr);
-  EXPECT_EQ(create(Header(16384, -16384, 32)), nullptr);  // 1 GiB
+  for (const auto& [width, height, bits] : {std::array{0, 1, 24}, std::array{1, 0, 24},
+                                           std::array{1, 1, 16}, std::array{16385, 1, 1},
+                                           std::array{16384, -16384, 32}}) {  // the last 1 GiB
+    EXPECT_EQ(create(Header(width, height, bits)), nullptr) << width << "x" << height;
+  }
   Info compressed = Header(4, 4, 8);
   compressed.header.biCompression = BI_RLE8;
   EXPECT_EQ(create(compressed), nullptr);
@@ -170,9 +160,9 @@ TEST(DibSections, RefusedFormatsAndSizesGiveNoHandle) {
 
 TEST(DibSections, GetDibitsQueryDescribesTheBitmap) {
   testing::LeakCheck leaks;
-  HDC dc = CreateCompatibleDC(nullptr);
-  HBITMAP color = CreateBitmap(5, 3, 1, 32, nullptr);
-  HBITMAP mono = CreateBitmap(9, 2, 1, 1, nullptr);
+  Owned dc{CreateCompatibleDC(nullptr)};
+  Owned color{CreateBitmap(5, 3, 1, 32, nullptr)};
+  Owned mono{CreateBitmap(9, 2, 1, 1, nullptr)};
   Info info;
   info.header.biSize = sizeof(BITMAPINFOHEADER);
   EXPECT_EQ(GetDIBits(dc, color, 0, 0, nullptr, info.get(), DIB_RGB_COLORS), 3);
@@ -193,19 +183,16 @@ TEST(DibSections, GetDibitsQueryDescribesTheBitmap) {
   EXPECT_EQ(info.header.biSizeImage, 24u);
   EXPECT_EQ(info.colors[246].rgbRed, 255);  // the default 8-bit table
   EXPECT_EQ(info.colors[246].rgbBlue, 240);
-  DeleteObject(color);
-  DeleteObject(mono);
-  DeleteDC(dc);
 }
 
 TEST(DibSections, BitsRoundTripAtEveryDepth) {
   testing::LeakCheck leaks;
-  HDC dc = CreateCompatibleDC(nullptr);
+  Owned dc{CreateCompatibleDC(nullptr)};
   // Colours every default table holds exactly, so each depth keeps them.
   const std::array<std::uint32_t, 4> colors = {0x000000, 0xFFFFFF, 0xFF0000, 0x000080};
   for (const int depth : {1, 4, 8, 24, 32}) {
     const int n = depth == 1 ? 2 : 4;
-    HBITMAP original = CreateBitmap(n, 2, 1, 32, nullptr);
+    Owned original{CreateBitmap(n, 2, 1, 32, nullptr)};
     Info source = Header(n, -2, 32);
     std::vector<std::uint32_t> pixels(colors.begin(), colors.begin() + n);
     pixels.insert(pixels.end(), colors.rbegin() + (4 - n), colors.rend());
@@ -214,20 +201,17 @@ TEST(DibSections, BitsRoundTripAtEveryDepth) {
     Info info = Header(n, 2, depth);
     std::vector<std::uint8_t> bits(64);
     ASSERT_EQ(GetDIBits(dc, original, 0, 2, bits.data(), info.get(), DIB_RGB_COLORS), 2) << depth;
-    HBITMAP copy = CreateBitmap(n, 2, 1, 32, nullptr);
+    Owned copy{CreateBitmap(n, 2, 1, 32, nullptr)};
     info.header.biClrUsed = 0;
     ASSERT_EQ(SetDIBits(dc, copy, 0, 2, bits.data(), info.get(), DIB_RGB_COLORS), 2);
     EXPECT_EQ(Read32(copy, n, 2), pixels) << depth << " bits per pixel";
-    DeleteObject(original);
-    DeleteObject(copy);
   }
-  DeleteDC(dc);
 }
 
-TEST(DibSections, ScanLinesCountFromTheBottom) {
+TEST(DibSections, ScanLinesCountFromTheBottomAndMonochromeTakesTheNearest) {
   testing::LeakCheck leaks;
-  HDC dc = CreateCompatibleDC(nullptr);
-  HBITMAP bitmap = CreateBitmap(1, 4, 1, 32, nullptr);
+  Owned dc{CreateCompatibleDC(nullptr)};
+  Owned bitmap{CreateBitmap(1, 4, 1, 32, nullptr)};
   const std::uint32_t rows[4] = {1, 2, 3, 4};  // top to bottom
   Info topDown = Header(1, -4, 32);
   SetDIBits(dc, bitmap, 0, 4, rows, topDown.get(), DIB_RGB_COLORS);
@@ -249,38 +233,29 @@ TEST(DibSections, ScanLinesCountFromTheBottom) {
   Info read = Header(1, -4, 32);
   GetDIBits(dc, bitmap, 0, 4, out, read.get(), DIB_RGB_COLORS);
   for (int i = 0; i < 4; ++i) EXPECT_EQ(out[i] & 0xFF, expected[i]) << i;
-  DeleteObject(bitmap);
-  DeleteDC(dc);
-}
 
-TEST(DibSections, MonochromeBitmapsTakeTheNearestOfBlackAndWhite) {
-  testing::LeakCheck leaks;
-  HDC dc = CreateCompatibleDC(nullptr);
-  HBITMAP mono = CreateBitmap(2, 1, 1, 1, nullptr);
+  // Monochrome bitmaps take the nearest of black and white.
+  Owned mono{CreateBitmap(2, 1, 1, 1, nullptr)};
   const std::uint32_t pixels[2] = {0x404040, 0xC8C8C8};
   Info info = Header(2, 1, 32);
   EXPECT_EQ(SetDIBits(dc, mono, 0, 1, pixels, info.get(), DIB_RGB_COLORS), 1);
   EXPECT_EQ(Read32(mono, 2, 1), (std::vector<std::uint32_t>{0x000000, 0xFFFFFF}));
-  DeleteObject(mono);
-  DeleteDC(dc);
 }
 
 TEST(DibSections, InvalidHandlesAreRefused) {
   testing::LeakCheck leaks;
-  HDC dc = CreateCompatibleDC(nullptr);
+  Owned dc{CreateCompatibleDC(nullptr)};
   HBITMAP bitmap = CreateBitmap(2, 2, 1, 32, nullptr);
   Info info = Header(2, 2, 32);
   std::uint32_t bits[4] = {};
   DeleteObject(bitmap);
   EXPECT_EQ(GetDIBits(dc, bitmap, 0, 2, bits, info.get(), DIB_RGB_COLORS), 0);
   EXPECT_EQ(SetDIBits(dc, bitmap, 0, 2, bits, info.get(), DIB_RGB_COLORS), 0);
-  HBITMAP live = CreateBitmap(2, 2, 1, 32, nullptr);
+  Owned live{CreateBitmap(2, 2, 1, 32, nullptr)};
   EXPECT_EQ(GetDIBits(nullptr, live, 0, 2, bits, info.get(), DIB_RGB_COLORS), 0);
   EXPECT_EQ(GetDIBits(dc, live, 0, 2, bits, nullptr, DIB_RGB_COLORS), 0);
   EXPECT_EQ(SetDIBits(dc, live, 0, 2, nullptr, info.get(), DIB_RGB_COLORS), 0);
   EXPECT_EQ(SetDIBColorTable(nullptr, 0, 1, info.colors), 0u);
-  DeleteObject(live);
-  DeleteDC(dc);
 }
 
 }  // namespace

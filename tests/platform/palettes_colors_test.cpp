@@ -1,31 +1,31 @@
 #include <gtest/gtest.h>
 
 #include "platform/soft/soft_engine.h"
-#include "tests/platform/blit_surfaces.h"
+#include "tests/platform/memory_surface.h"
+#include "tests/support/gdi_scope.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon::win {
 namespace {
 
+using testing::Owned;
+
 TEST(Palettes, HalftonePaletteHoldsTheStaticColorsAroundAColorCube) {
   testing::LeakCheck leaks;
-  HPALETTE halftone = CreateHalftonePalette(nullptr);
+  Owned halftone{CreateHalftonePalette(nullptr)};
   ASSERT_NE(halftone, nullptr);
   EXPECT_EQ(GetPaletteEntries(halftone, 0, 0, nullptr), 256u);
   PALETTEENTRY entries[256];
   ASSERT_EQ(GetPaletteEntries(halftone, 0, 256, entries), 256u);
-  auto rgb = [&](int i) { return RGB(entries[i].peRed, entries[i].peGreen, entries[i].peBlue); };
-  EXPECT_EQ(rgb(0), RGB(0, 0, 0));
-  EXPECT_EQ(rgb(8), RGB(192, 220, 192));
-  EXPECT_EQ(rgb(10), RGB(64, 32, 0));
-  EXPECT_EQ(rgb(245), RGB(160, 192, 192));
-  EXPECT_EQ(rgb(246), RGB(255, 251, 240));
-  EXPECT_EQ(rgb(255), RGB(255, 255, 255));
-  HPALETTE second = CreateHalftonePalette(nullptr);
+  for (const auto& [index, color] : {std::pair{0, RGB(0, 0, 0)}, {8, RGB(192, 220, 192)},
+                                      {10, RGB(64, 32, 0)}, {245, RGB(160, 192, 192)},
+                                      {246, RGB(255, 251, 240)}, {255, RGB(255, 255, 255)}}) {
+    const PALETTEENTRY& e = entries[index];
+    EXPECT_EQ(RGB(e.peRed, e.peGreen, e.peBlue), color) << index;
+  }
+  Owned second{CreateHalftonePalette(nullptr)};
   EXPECT_NE(second, halftone);
   EXPECT_EQ(GetNearestPaletteIndex(second, RGB(64, 32, 0)), 10u);
-  DeleteObject(second);
-  DeleteObject(halftone);
 }
 
 TEST(Palettes, EntriesAndNearestIndex) {
@@ -51,35 +51,31 @@ TEST(Palettes, EntriesAndNearestIndex) {
 
 TEST(Palettes, HaveNoVisibleEffectAtThirtyTwoBits) {
   testing::LeakCheck leaks;
-  MemorySurface source(2, 1, 32);
+  testing::MemorySurface source(2, 1, 32);
   source.Set({0x123456, 0xFEDCBA});
-  MemorySurface destination(2, 1, 32);
-  HPALETTE halftone = CreateHalftonePalette(destination.dc());
+  testing::MemorySurface destination(2, 1, 32);
+  Owned halftone{CreateHalftonePalette(destination.dc())};
   HPALETTE old = SelectPalette(destination.dc(), halftone, TRUE);
   EXPECT_EQ(RealizePalette(destination.dc()), 0u);
   BitBlt(destination.dc(), 0, 0, 2, 1, source.dc(), 0, 0, SRCCOPY);
   EXPECT_EQ(destination.Get(), source.Get());
   SelectPalette(destination.dc(), old, TRUE);
-  DeleteObject(halftone);
 }
 
 TEST(OleColors, TranslatesEveryForm) {
   testing::LeakCheck leaks;
-  COLORREF out = 0xDEADBEEF;
-  EXPECT_EQ(OleTranslateColor(0x00123456, nullptr, &out), S_OK);
-  EXPECT_EQ(out, 0x00123456u);
-  EXPECT_EQ(OleTranslateColor(0x80000005, nullptr, &out), S_OK);
-  EXPECT_EQ(out, GetSysColor(COLOR_WINDOW));
-  EXPECT_EQ(OleTranslateColor(0x8000FF0F, nullptr, &out), S_OK);  // only the low byte counts
-  EXPECT_EQ(out, GetSysColor(COLOR_BTNFACE));
-  EXPECT_EQ(OleTranslateColor(0x8000001E, nullptr, &out), S_OK);
-  EXPECT_EQ(OleTranslateColor(0x02ABCDEF, nullptr, &out), S_OK);
-  EXPECT_EQ(out, 0x02ABCDEFu);
-  EXPECT_EQ(OleTranslateColor(0x01000007, nullptr, &out), S_OK);  // no palette to check against
-  EXPECT_EQ(out, 0x01000007u);
+  // System colours take only the low byte; palette forms pass without a palette to check.
+  for (const auto& [color, expected] :
+       {std::pair<OLE_COLOR, COLORREF>{0x00123456, 0x00123456},
+        {0x80000005, GetSysColor(COLOR_WINDOW)}, {0x8000FF0F, GetSysColor(COLOR_BTNFACE)},
+        {0x8000001E, GetSysColor(COLOR_MENUBAR)}, {0x02ABCDEF, 0x02ABCDEF}, {0x01000007, 0x01000007}}) {
+    COLORREF out = 0xDEADBEEF;
+    EXPECT_EQ(OleTranslateColor(color, nullptr, &out), S_OK) << std::hex << color;
+    EXPECT_EQ(out, expected) << std::hex << color;
+  }
   EXPECT_EQ(OleTranslateColor(0x80000005, nullptr, nullptr), S_OK);  // a pure validity check
 
-  out = 0xDEADBEEF;
+  COLORREF out = 0xDEADBEEF;
   for (const OLE_COLOR bad : {0x8000001Fu, 0x800000FFu, 0x03000000u, 0x40000000u, 0xFFFFFFFFu}) {
     EXPECT_EQ(OleTranslateColor(bad, nullptr, &out), E_INVALIDARG) << std::hex << bad;
   }

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/win32.h"
-#include "tests/platform/raster_surface.h"
+#include "tests/platform/memory_surface.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon::win {
@@ -23,22 +23,15 @@ TEST(Rectangle, OutlinesWithThePenAndFillsTheInsideExclusively) {
   RasterSurface s(7, 6);
   s.UseBrush(CreateSolidBrush(kRed));
   EXPECT_TRUE(Rectangle(s.dc(), 6, 5, 1, 1));  // corners in any order
-  const Picture expected = {
-      ".......", ".#####.", ".#rrr#.", ".#rrr#.", ".#####.", ".......",
-  };
-  EXPECT_EQ(s.Picture({{kRed, 'r'}}), expected);
-}
+  EXPECT_EQ(s.Picture({{kRed, 'r'}}),
+            (Picture{".......", ".#####.", ".#rrr#.", ".#rrr#.", ".#####.", "......."}));
 
-TEST(Rectangle, NullPenFillsOneRowAndColumnLessAndNullBrushLeavesTheInside) {
-  LeakCheck leaks;
-  RasterSurface s(7, 6);
-  s.UseBrush(CreateSolidBrush(kRed));
+  // A null pen fills one row and column less; a null brush leaves the inside.
+  s.Clear(RGB(255, 255, 255));
   SelectObject(s.dc(), GetStockObject(NULL_PEN));
   Rectangle(s.dc(), 1, 1, 6, 5);
-  Picture expected = {
-      ".......", ".rrrr..", ".rrrr..", ".rrrr..", ".......", ".......",
-  };
-  EXPECT_EQ(s.Picture({{kRed, 'r'}}), expected);
+  EXPECT_EQ(s.Picture({{kRed, 'r'}}),
+            (Picture{".......", ".rrrr..", ".rrrr..", ".rrrr..", ".......", "......."}));
 
   s.Clear(RGB(255, 255, 255));
   s.UsePen(PS_SOLID, 1, RGB(0, 0, 0));
@@ -58,10 +51,8 @@ TEST(Rectangle, DotsRunAnticlockwiseFromTheTopRightCorner) {
   s.UsePen(PS_DOT, 1, RGB(0, 0, 0));
   SelectObject(s.dc(), GetStockObject(NULL_BRUSH));
   Rectangle(s.dc(), 0, 0, 8, 6);
-  const Picture expected = {
-      "##...###", "#.......", "........", "........", ".......#", "###...##",
-  };
-  EXPECT_EQ(s.Picture(), expected);
+  EXPECT_EQ(s.Picture(),
+            (Picture{"##...###", "#.......", "........", "........", ".......#", "###...##"}));
 }
 
 TEST(Rectangle, WideOutlinePaintsEachPixelOnceAroundTheInterior) {
@@ -71,11 +62,9 @@ TEST(Rectangle, WideOutlinePaintsEachPixelOnceAroundTheInterior) {
   SelectObject(s.dc(), GetStockObject(NULL_BRUSH));
   SetROP2(s.dc(), R2_NOT);  // a pixel painted twice would turn white again
   Rectangle(s.dc(), 2, 2, 10, 8);
-  const Picture outline = {
-      "............", "..########..", ".##########.", ".##########.", ".###....###.",
-      ".###....###.", ".##########.", ".##########.", "..########..", "............",
-  };
-  EXPECT_EQ(s.Picture(), outline);
+  EXPECT_EQ(s.Picture(), (Picture{"............", "..########..", ".##########.",
+                                   ".##########.", ".###....###.", ".###....###.", ".##########.",
+                                   ".##########.", "..########..", "............"}));
 
   s.Clear(RGB(255, 255, 255));
   SetROP2(s.dc(), R2_COPYPEN);
@@ -101,24 +90,17 @@ TEST(Rectangle, InsideFramePensStayInsideTheRectangle) {
   EXPECT_EQ(p[6].substr(2, 10), "####..####");
 }
 
-TEST(Ellipse, SmallCircleOutlineOverItsFill) {
-  LeakCheck leaks;
-  RasterSurface s(5, 5);
-  s.UseBrush(CreateSolidBrush(kRed));
-  Ellipse(s.dc(), 0, 0, 5, 5);
-  const Picture expected = {".###.", "#rrr#", "#rrr#", "#rrr#", ".###."};
-  EXPECT_EQ(s.Picture({{kRed, 'r'}}), expected);
-}
-
-TEST(RoundRect, CornersFollowTheEllipseAndTinyCornersGiveARectangle) {
+TEST(Ellipse, SmallCircleAndRoundedCornersOutlineOverTheirFill) {
   LeakCheck leaks;
   RasterSurface s(8, 6);
   s.UseBrush(CreateSolidBrush(kRed));
+  Ellipse(s.dc(), 0, 0, 5, 5);
+  EXPECT_EQ(s.Picture({{kRed, 'r'}}), (Picture{".###....", "#rrr#...", "#rrr#...", "#rrr#...",
+                                               ".###....", "........"}));
+  // Round corners follow the ellipse; corners too small for a pixel give a rectangle.
   RoundRect(s.dc(), 0, 0, 8, 6, 4, 4);
-  const Picture rounded = {
-      ".######.", "#rrrrrr#", "#rrrrrr#", "#rrrrrr#", "#rrrrrr#", ".######.",
-  };
-  EXPECT_EQ(s.Picture({{kRed, 'r'}}), rounded);
+  EXPECT_EQ(s.Picture({{kRed, 'r'}}), (Picture{".######.", "#rrrrrr#", "#rrrrrr#", "#rrrrrr#",
+                                               "#rrrrrr#", ".######."}));
   s.Clear(RGB(255, 255, 255));
   RoundRect(s.dc(), 0, 0, 8, 6, 2, 9);
   EXPECT_EQ(s.Picture({{kRed, 'r'}})[0], "########");
