@@ -4,8 +4,9 @@
 
 #include <array>
 #include <climits>
-#include <initializer_list>
+#include <cstring>
 #include <utility>
+#include <vector>
 
 #include "tests/platform/text_canvas.h"
 #include "tests/support/leak_check.h"
@@ -17,97 +18,107 @@ namespace {
 using testing::ScopedFont;
 using testing::TextCanvas;
 
-constexpr COLORREF kText = RGB(0, 0, 0);
-
 // A rectangle as left, top, right, bottom, so that gtest compares and prints it.
 using Box = std::array<LONG, 4>;
 Box BoxOf(const RECT& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
 
 class DrawTextLayout : public ::testing::Test {
  protected:
-  // A rectangle at (10, 20) of the given width measured with DT_CALCRECT; height gets the result.
-  Box Measure(const char* text, int width, UINT format, int* height = nullptr) {
-    RECT rect{10, 20, 10 + width, 21};
-    const int result = DrawTextA(canvas_.Dc(), text, -1, &rect, format | DT_CALCRECT);
-    if (height != nullptr) *height = result;
-    return BoxOf(rect);
-  }
-
   testing::LeakCheck leaks_;
   testing::PinnedFont pinned_;
   TextCanvas canvas_{100, 60};
   ScopedFont font_{canvas_.Dc(), -11};
 };
-// Draws with DrawTextA into one canvas and each expected line with TextOutA into another.
-bool DrawsLines(const char* text, RECT rect, UINT format,
-                std::initializer_list<std::pair<POINT, const char*>> lines) {
-  TextCanvas drawn(100, 60), expected(100, 60);
-  ScopedFont a(drawn.Dc(), -11), b(expected.Dc(), -11);
-  SetBkMode(drawn.Dc(), TRANSPARENT);
-  SetBkMode(expected.Dc(), TRANSPARENT);
-  DrawTextA(drawn.Dc(), text, -1, &rect, format);
-  for (const auto& [at, line] : lines) {
-    int count = 0;
-    while (line[count] != '\0') ++count;
-    TextOutA(expected.Dc(), at.x, at.y, line, count);
+
+TEST_F(DrawTextLayout, MeasuringWrapsBreaksAndSkipsAccessKeyMarks) {
+  constexpr UINT kWrap = DT_WORDBREAK, kEdit = DT_WORDBREAK | DT_EDITCONTROL;
+  // A rectangle at (10, 20) of the given width, measured with DT_CALCRECT; a zero height or box
+  // is not checked.
+  const struct {
+    const char* text;
+    int width;
+    UINT format;
+    Box box;
+    int height;
+  } cases[] = {
+      // "ab " is 18 wide and fits in 20, "ab c" (24) does not; centred lines drop the space.
+      {"ab cd", 20, kWrap, {10, 20, 28, 46}, 26},
+      {"ab cd", 20, kWrap | DT_CENTER, {10, 20, 24, 46}, 26},
+      // An edit control breaks a word wider than the line, after a whole word that fits;
+      // otherwise the word stays whole and the rectangle grows to hold it.
+      {"mmmm", 25, kEdit, {10, 20, 32, 46}, 26},
+      {"mmmm", 25, kWrap, {10, 20, 54, 33}, 13},
+      {"ab mmmm", 25, kEdit, {10, 20, 32, 59}, 39},
+      // A caption that fits exactly stays on one line; without word breaks the rectangle shrinks
+      // or grows to the text, its top-left kept.
+      {"ab cd", 31, kWrap, {10, 20, 41, 33}, 13},
+      {"ab cd", 30, kWrap, {10, 20, 28, 46}, 26},
+      {"ab cd", 300, 0, {10, 20, 41, 33}, 13},
+      {"ab cd", 0, 0, {10, 20, 41, 33}, 13},
+      // An empty caption measures nothing yet returns a line height.
+      {"", 50, kWrap, {10, 20, 10, 20}, 13},
+      {"", 50, DT_SINGLELINE, {10, 20, 10, 33}, 13},
+      // A final '&' is drawn, "&&" is one '&', a single mark is dropped unless DT_NOPREFIX.
+      {"&", 50, 0, {10, 20, 20, 33}, 13},
+      {"A&&B", 50, 0, {10, 20, 35, 33}, 13},
+      {"&ab", 50, 0, {10, 20, 24, 33}, 13},
+      {"&ab", 50, DT_NOPREFIX, {10, 20, 34, 33}, 13},
+      // CR, LF, CR LF and LF CR each break once; a final break opens no line.
+      {"ab\r\ncd\n\nx", 50, 0, {}, 52},
+      {"ab\n", 50, 0, {}, 13},
+      {"ab\n\rcd", 50, 0, {}, 26},
+      {"ab\r\rcd", 50, 0, {}, 39},
+      {"ab\ncd", 50, DT_SINGLELINE, {}, 13},
+  };
+  for (const auto& c : cases) {
+    RECT rect{10, 20, 10 + c.width, 21};
+    EXPECT_EQ(DrawTextA(canvas_.Dc(), c.text, -1, &rect, c.format | DT_CALCRECT), c.height)
+        << c.text << " in " << c.width;
+    if (c.box != Box{}) {
+      EXPECT_EQ(BoxOf(rect), c.box) << c.text << " in " << c.width;
+    }
   }
-  return drawn.SameAs(expected) && drawn.InkTotal() > 0;
-}
-
-TEST_F(DrawTextLayout, WordBreakKeepsFittingSpacesOnLeftAlignedLinesOnly) {
-  int height = 0;
-  // "ab " is 18 wide and fits in 20; "ab c" (24) does not.
-  EXPECT_EQ(Measure("ab cd", 20, DT_WORDBREAK, &height), (Box{10, 20, 28, 46}));
-  EXPECT_EQ(height, 26);
-  // Centred lines drop the space at the break: "ab" is 14.
-  EXPECT_EQ(Measure("ab cd", 20, DT_WORDBREAK | DT_CENTER), (Box{10, 20, 24, 46}));
-  EXPECT_TRUE(
-      DrawsLines("ab cd", RECT{0, 0, 20, 40}, DT_WORDBREAK, {{{0, 0}, "ab"}, {{0, 13}, "cd"}}));
-}
-
-TEST_F(DrawTextLayout, EachLineIsCentredOnItsOwn) {
-  // (0 + 21 - 14) / 2 = 3 for "ab", (21 - 13) / 2 = 4 for "cd".
-  EXPECT_TRUE(DrawsLines("ab cd", RECT{0, 0, 21, 40}, DT_WORDBREAK | DT_CENTER,
-                         {{{3, 0}, "ab"}, {{4, 13}, "cd"}}));
-  EXPECT_TRUE(DrawsLines("ab", RECT{0, 0, 100, 40}, DT_RIGHT, {{{86, 0}, "ab"}}));
-}
-
-TEST_F(DrawTextLayout, EditControlBreaksAWordWiderThanTheLine) {
-  int height = 0;
-  EXPECT_EQ(Measure("mmmm", 25, DT_WORDBREAK | DT_EDITCONTROL, &height), (Box{10, 20, 32, 46}));
-  EXPECT_EQ(height, 26);
-  // Without it the word stays whole and the rectangle grows to hold it.
-  EXPECT_EQ(Measure("mmmm", 25, DT_WORDBREAK), (Box{10, 20, 54, 33}));
-  // A whole word that fits goes first; the long one is then cut at what fits.
-  EXPECT_EQ(Measure("ab mmmm", 25, DT_WORDBREAK | DT_EDITCONTROL, &height), (Box{10, 20, 32, 59}));
-  EXPECT_EQ(height, 39);
-}
-
-TEST_F(DrawTextLayout, CaptionThatFitsExactlyStaysOnOneLine) {
-  EXPECT_EQ(Measure("ab cd", 31, DT_WORDBREAK), (Box{10, 20, 41, 33}));
-  EXPECT_EQ(Measure("ab cd", 30, DT_WORDBREAK)[3], 46);
-  // Without word breaks the rectangle shrinks or grows to the text, its top-left kept.
-  EXPECT_EQ(Measure("ab cd", 300, 0), (Box{10, 20, 41, 33}));
-  EXPECT_EQ(Measure("ab cd", 0, 0), (Box{10, 20, 41, 33}));
-}
-
-TEST_F(DrawTextLayout, EmptyCaptionMeasuresNothingYetReturnsALineHeight) {
-  int height = 0;
-  EXPECT_EQ(Measure("", 50, DT_WORDBREAK, &height), (Box{10, 20, 10, 20}));
-  EXPECT_EQ(height, 13);
-  EXPECT_EQ(Measure("", 50, DT_SINGLELINE), (Box{10, 20, 10, 33}));
   RECT untouched{1, 2, 3, 4};
   EXPECT_EQ(DrawTextA(canvas_.Dc(), "ab", 0, &untouched, DT_CALCRECT), 0);
   EXPECT_EQ(BoxOf(untouched), (Box{1, 2, 3, 4}));
 }
 
-TEST_F(DrawTextLayout, AmpersandsFollowTheAccessKeyRules) {
-  EXPECT_EQ(Measure("&", 50, 0)[2], 10 + 10);     // a final '&' is drawn
-  EXPECT_EQ(Measure("A&&B", 50, 0)[2], 10 + 25);  // "A&B"
-  EXPECT_EQ(Measure("&ab", 50, 0)[2], 10 + 14);   // "ab"
-  EXPECT_EQ(Measure("&ab", 50, DT_NOPREFIX)[2], 10 + 24);
-  EXPECT_TRUE(DrawsLines("A&&B", RECT{0, 0, 100, 40}, 0, {{{0, 0}, "A&B"}}));
-  EXPECT_TRUE(DrawsLines("&", RECT{0, 0, 100, 40}, 0, {{{0, 0}, "&"}}));
+TEST_F(DrawTextLayout, LinesArePlacedAsTextOutWouldPlaceThem) {
+  using Lines = std::vector<std::pair<POINT, const char*>>;
+  const struct {
+    const char* text;
+    RECT rect;
+    UINT format;
+    Lines lines;
+  } cases[] = {
+      {"ab cd", {0, 0, 20, 40}, DT_WORDBREAK, {{{0, 0}, "ab"}, {{0, 13}, "cd"}}},
+      // Each line is centred on its own: (21 - 14) / 2 = 3 for "ab", (21 - 13) / 2 = 4 for "cd".
+      {"ab cd", {0, 0, 21, 40}, DT_WORDBREAK | DT_CENTER, {{{3, 0}, "ab"}, {{4, 13}, "cd"}}},
+      {"ab\ncd", {0, 0, 100, 40}, DT_CENTER, {{{43, 0}, "ab"}, {{43, 13}, "cd"}}},
+      {"ab", {0, 0, 100, 40}, DT_RIGHT, {{{86, 0}, "ab"}}},
+      {"A&&B", {0, 0, 100, 40}, 0, {{{0, 0}, "A&B"}}},
+      {"&", {0, 0, 100, 40}, 0, {{{0, 0}, "&"}}},
+      // Single lines centre or sit at the bottom: 40 / 2 - 13 / 2 = 14, and 40 - 13 = 27;
+      // vertical placement applies to single lines only.
+      {"ab", {0, 0, 100, 40}, DT_SINGLELINE | DT_VCENTER, {{{0, 14}, "ab"}}},
+      {"ab", {0, 0, 100, 40}, DT_SINGLELINE | DT_BOTTOM, {{{0, 27}, "ab"}}},
+      {"ab", {0, 0, 100, 40}, DT_VCENTER, {{{0, 0}, "ab"}}},
+  };
+  for (const auto& c : cases) {
+    TextCanvas drawn(100, 60), expected(100, 60);
+    ScopedFont a(drawn.Dc(), -11), b(expected.Dc(), -11);
+    for (HDC dc : {drawn.Dc(), expected.Dc()}) SetBkMode(dc, TRANSPARENT);
+    RECT rect = c.rect;
+    DrawTextA(drawn.Dc(), c.text, -1, &rect, c.format);
+    for (const auto& [at, line] : c.lines) {
+      TextOutA(expected.Dc(), at.x, at.y, line, static_cast<int>(std::strlen(line)));
+    }
+    EXPECT_TRUE(drawn.SameAs(expected) && drawn.InkTotal() > 0) << c.text << " " << c.format;
+  }
+  // A single line's result is then the distance from the top to the bottom of the text.
+  RECT rect{0, 0, 100, 40};
+  EXPECT_EQ(DrawTextA(canvas_.Dc(), "ab", -1, &rect, DT_SINGLELINE | DT_VCENTER), 27);
+  EXPECT_EQ(DrawTextA(canvas_.Dc(), "ab", -1, &rect, DT_SINGLELINE | DT_BOTTOM), 40);
 }
 
 TEST_F(DrawTextLayout, AccessKeyIsUnderlinedBelowTheAscent) {
@@ -122,37 +133,9 @@ TEST_F(DrawTextLayout, AccessKeyIsUnderlinedBelowTheAscent) {
     for (int x = 0; x < 100; ++x) {
       // Row top + ascent + 1, from the character's left edge to one short of its advance.
       const bool underline = (y == 11 && x < 6) || (y == 24 && x < 5);
-      EXPECT_EQ(canvas_.At(x, y), underline ? kText : plain.At(x, y)) << x << "," << y;
+      EXPECT_EQ(canvas_.At(x, y), underline ? RGB(0, 0, 0) : plain.At(x, y)) << x << "," << y;
     }
   }
-}
-
-TEST_F(DrawTextLayout, CrAndLfBreakLines) {
-  int height = 0;
-  Measure("ab\r\ncd\n\nx", 50, 0, &height);
-  EXPECT_EQ(height, 52);
-  Measure("ab\n", 50, 0, &height);
-  EXPECT_EQ(height, 13);  // a final break opens no line
-  Measure("ab\n\rcd", 50, 0, &height);
-  EXPECT_EQ(height, 26);  // LF CR is one break
-  Measure("ab\r\rcd", 50, 0, &height);
-  EXPECT_EQ(height, 39);
-  Measure("ab\ncd", 50, DT_SINGLELINE, &height);
-  EXPECT_EQ(height, 13);
-  EXPECT_TRUE(
-      DrawsLines("ab\ncd", RECT{0, 0, 100, 40}, DT_CENTER, {{{43, 0}, "ab"}, {{43, 13}, "cd"}}));
-}
-
-TEST_F(DrawTextLayout, SingleLineCanBeCentredOrBottomAlignedVertically) {
-  // 0 + 40 / 2 - 13 / 2 = 14, and 40 - 13 = 27.
-  EXPECT_TRUE(DrawsLines("ab", RECT{0, 0, 100, 40}, DT_SINGLELINE | DT_VCENTER, {{{0, 14}, "ab"}}));
-  EXPECT_TRUE(DrawsLines("ab", RECT{0, 0, 100, 40}, DT_SINGLELINE | DT_BOTTOM, {{{0, 27}, "ab"}}));
-  // The result is then the distance from the top to the bottom of the text.
-  RECT rect{0, 0, 100, 40};
-  EXPECT_EQ(DrawTextA(canvas_.Dc(), "ab", -1, &rect, DT_SINGLELINE | DT_VCENTER), 27);
-  EXPECT_EQ(DrawTextA(canvas_.Dc(), "ab", -1, &rect, DT_SINGLELINE | DT_BOTTOM), 40);
-  // Vertical placement applies to single lines only.
-  EXPECT_TRUE(DrawsLines("ab", RECT{0, 0, 100, 40}, DT_VCENTER, {{{0, 0}, "ab"}}));
 }
 
 TEST_F(DrawTextLayout, EditControlLeavesOutAPartlyVisibleLastLine) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstring>
 #include <string>
 
@@ -33,30 +34,20 @@ std::string FaceOf(HDC dc) {
 
 // The pinned face has 2048 units per em, a Windows ascent of 1901 and descent of 483.
 TEST_F(TextFont, NegativeHeightIsTheEmAndPositiveHeightTheCell) {
-  {
-    ScopedFont font(canvas_.Dc(), -11);
+  // 13 is the cell of an 11-pixel em; 0 asks for GDI's default cell of 16.
+  for (const auto& [requested, cell, em] :
+       {std::array{-11, 13, 11}, std::array{13, 13, 11}, std::array{0, 16, 0}, {-16, 19, 16}}) {
+    ScopedFont font(canvas_.Dc(), requested);
     const TEXTMETRICA tm = MetricsOf(canvas_.Dc());
-    EXPECT_EQ(tm.tmAscent, 10);  // 1901 * 11 / 2048 = 10.2
-    EXPECT_EQ(tm.tmDescent, 3);  // 483 * 11 / 2048 = 2.6
-    EXPECT_EQ(tm.tmHeight, 13);
-    EXPECT_EQ(tm.tmHeight - tm.tmInternalLeading, 11);
-    EXPECT_EQ(tm.tmExternalLeading, 0);
-    EXPECT_EQ(tm.tmAveCharWidth, 6);  // xAvgCharWidth 1038 * 11 / 2048 = 5.6
+    EXPECT_EQ(tm.tmHeight, cell) << requested;
+    EXPECT_TRUE(em == 0 || tm.tmHeight - tm.tmInternalLeading == em) << requested;
   }
-  {
-    ScopedFont font(canvas_.Dc(), 13);  // the same cell, so the same em
-    EXPECT_EQ(MetricsOf(canvas_.Dc()).tmInternalLeading, 2);
-  }
-  {
-    ScopedFont font(canvas_.Dc(), 0);  // GDI's default cell of 16
-    EXPECT_EQ(MetricsOf(canvas_.Dc()).tmHeight, 16);
-  }
-  {
-    ScopedFont font(canvas_.Dc(), -16);
-    const TEXTMETRICA tm = MetricsOf(canvas_.Dc());
-    EXPECT_EQ(tm.tmHeight, 19);
-    EXPECT_EQ(tm.tmHeight - tm.tmInternalLeading, 16);
-  }
+  ScopedFont font(canvas_.Dc(), -11);
+  const TEXTMETRICA tm = MetricsOf(canvas_.Dc());
+  EXPECT_EQ(tm.tmAscent, 10);  // 1901 * 11 / 2048 = 10.2
+  EXPECT_EQ(tm.tmDescent, 3);  // 483 * 11 / 2048 = 2.6
+  EXPECT_EQ(tm.tmExternalLeading, 0);
+  EXPECT_EQ(tm.tmAveCharWidth, 6);  // xAvgCharWidth 1038 * 11 / 2048 = 5.6
 }
 
 // A surface copies a DC's font by feeding its metrics and face name back into CreateFontA; the
@@ -94,32 +85,22 @@ TEST_F(TextFont, AverageWidthScalesGlyphsHorizontally) {
               2.0 * static_cast<double>(natural), 6.0);
 }
 
-TEST_F(TextFont, BoldIsSynthesisedWhenTheFamilyHasNoBoldFace) {
-  long regular = 0;
-  {
-    ScopedFont font(canvas_.Dc(), -11, 550);  // up to 550 stays regular
-    EXPECT_EQ(MetricsOf(canvas_.Dc()).tmWeight, 400);
-    regular = WidthOf(canvas_.Dc(), "Hello");
-  }
-  ScopedFont font(canvas_.Dc(), -11, 551);
-  EXPECT_EQ(MetricsOf(canvas_.Dc()).tmWeight, 700);
-  EXPECT_EQ(WidthOf(canvas_.Dc(), "Hello"), regular + 5);  // one pixel wider per glyph
-}
-
-TEST_F(TextFont, RealBoldFaceIsPreferredToSynthesis) {
-  auto boldWidth = [this] {
-    ScopedFont font(canvas_.Dc(), -11, 700);
-    EXPECT_EQ(MetricsOf(canvas_.Dc()).tmWeight, 700);
-    return WidthOf(canvas_.Dc(), "Hello world");
+TEST_F(TextFont, BoldIsSynthesisedOnlyWhenTheFamilyHasNoBoldFace) {
+  auto width = [this](int weight, int reported, const char* text = "Hello world") {
+    ScopedFont font(canvas_.Dc(), -11, weight);
+    EXPECT_EQ(MetricsOf(canvas_.Dc()).tmWeight, reported) << weight;
+    return WidthOf(canvas_.Dc(), text);
   };
-  const long synthesised = boldWidth();
+  // Up to 550 stays regular; synthesis makes each glyph one pixel wider.
+  EXPECT_EQ(width(551, 700, "Hello"), width(550, 400, "Hello") + 5);
+  const long synthesised = width(700, 700);
   long real = 0;
   {
     testing::PinnedFont boldOnly({kBoldFile});
-    real = boldWidth();
+    real = width(700, 700);
   }
   testing::PinnedFont both({testing::kPinnedFontFile, kBoldFile});
-  EXPECT_EQ(boldWidth(), real);
+  EXPECT_EQ(width(700, 700), real);
   EXPECT_NE(real, synthesised);
 }
 
