@@ -53,19 +53,16 @@ TEST(CanvasShapes, FillRectangleDrawPixelAndDrawRect3D) {
             (Rows{"rrrrr.", "rkk.b.", "r...b.", "rbbbb.", "..g...", "g....."}));
 }
 
-TEST(CanvasShapes, DrawRoundRectTreatsZeroAsTheCurrentPen) {
+TEST(CanvasShapes, RoundRectsTakeZeroAsTheCurrentPenAndFillUpToARedOutline) {
   LeakCheck leaks;
-  auto canvas = MakeCanvas(20, 20);
-  canvas->ForeColor(kRed);
-  canvas->DrawRoundRect(0, 0, 20, 10, 0, kGreen);
-  canvas->DrawRoundRect(0, 10, 20, 20, kBlue, kGreen);
-  EXPECT_EQ(win::GetPixel(canvas->hdc(), 10, 0), kRed);
-  EXPECT_EQ(win::GetPixel(canvas->hdc(), 10, 10), kBlue);
-  EXPECT_EQ(canvas->ForeColor(), kRed);
-}
+  auto round = MakeCanvas(20, 20);
+  round->ForeColor(kRed);
+  round->DrawRoundRect(0, 0, 20, 10, 0, kGreen);
+  round->DrawRoundRect(0, 10, 20, 20, kBlue, kGreen);
+  EXPECT_EQ(win::GetPixel(round->hdc(), 10, 0), kRed);
+  EXPECT_EQ(win::GetPixel(round->hdc(), 10, 10), kBlue);
+  EXPECT_EQ(round->ForeColor(), kRed);
 
-TEST(CanvasShapes, FillRoundRectOutlineAndRedBoundedFill) {
-  LeakCheck leaks;
   auto canvas = MakeCanvas(12, 12);
   canvas->FillRoundRect(0, 0, 11, 11, kRed, kGreen);  // the hollow brush fills nothing
   canvas->FillStyle(0);
@@ -83,7 +80,7 @@ TEST(CanvasShapes, FillRoundRectOutlineAndRedBoundedFill) {
   EXPECT_EQ(PixelRows(other->hdc(), 12, 12, kLegend), Rows(12, std::string(12, 'g')));
 }
 
-TEST(CanvasShapes, GradientTopToBottomPaintsBothEndRowsAndRoundsHalfToEven) {
+TEST(CanvasShapes, GradientsPaintBothEndRowsAndRoundHalfToEven) {
   LeakCheck leaks;
   auto canvas = MakeCanvas(2, 8);
   // Three rows over a distance of 2: the middle row sits at 12.5 and 13.5 of red and green.
@@ -97,17 +94,16 @@ TEST(CanvasShapes, GradientTopToBottomPaintsBothEndRowsAndRoundsHalfToEven) {
                                                 RGB(25, 27, 0), kWhite, RGB(10, 20, 30),
                                                 kWhite, kWhite}));
   EXPECT_EQ(win::GetPixel(canvas->hdc(), 1, 2), kWhite);  // right edge excluded
-}
 
-TEST(CanvasShapes, GradientLeftToRightPaintsColumns) {
-  LeakCheck leaks;
-  auto canvas = MakeCanvas(4, 2);
-  canvas->FillGradientLeftToRight(0, 0, 2, 1, 0, 0, 0, 26, 50, 254);
-  EXPECT_EQ(PixelRows(canvas->hdc(), 4, 2,
+  // Left to right paints columns.
+  auto columns = MakeCanvas(4, 2);
+  columns->FillGradientLeftToRight(0, 0, 2, 1, 0, 0, 0, 26, 50, 254);
+  EXPECT_EQ(PixelRows(columns->hdc(), 4, 2,
                       {{kWhite, '.'}, {kBlack, '0'}, {RGB(13, 25, 127), '1'},
                        {RGB(26, 50, 254), '2'}}),
             (Rows{"012.", "...."}));
 }
+
 
 TEST(CanvasShapes, FillRectGradientIsFixedAndAnchoredAtTheOrigin) {
   LeakCheck leaks;

@@ -14,17 +14,15 @@ namespace {
 
 using win::RGB;
 
-win::LOGPEN SelectedPen(win::HDC hdc) {
-  win::LOGPEN pen{};
-  win::GetObjectA(win::GetCurrentObject(hdc, win::OBJ_PEN), sizeof pen, &pen);
-  return pen;
+// The description of the pen (LOGPEN, OBJ_PEN) or brush (LOGBRUSH, OBJ_BRUSH) selected.
+template <class Description, win::UINT kKind>
+Description Selected(win::HDC hdc) {
+  Description description{};
+  win::GetObjectA(win::GetCurrentObject(hdc, kKind), sizeof description, &description);
+  return description;
 }
-
-win::LOGBRUSH SelectedBrush(win::HDC hdc) {
-  win::LOGBRUSH brush{};
-  win::GetObjectA(win::GetCurrentObject(hdc, win::OBJ_BRUSH), sizeof brush, &brush);
-  return brush;
-}
+constexpr auto SelectedPen = Selected<win::LOGPEN, win::OBJ_PEN>;
+constexpr auto SelectedBrush = Selected<win::LOGBRUSH, win::OBJ_BRUSH>;
 
 void ExpectNoDcError(const std::function<void()>& call, const char* source) {
   try {

@@ -1,6 +1,8 @@
 #include "surface/mod_colors.h"
 
 #include <array>
+#include <tuple>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -31,10 +33,11 @@ TEST(ModColors, HlsConversionsOnTheTwoFortyScale) {
   EXPECT_EQ((std::array{h, s}), (std::array{0.0f, 0.0f}));
   EXPECT_FLOAT_EQ(l, 240.0f * 128 / 255);
   // Channels are truncated: 127.5 gives 127.
-  EXPECT_EQ(HLSToRGB(0, 0, 120), RGB(127, 127, 127));
-  EXPECT_EQ(HLSToRGB(0, 0, 160), RGB(170, 170, 170));
-  EXPECT_EQ(HLSToRGB(80, 240, 120), RGB(0, 255, 0));
-  EXPECT_EQ(HLSToRGB(160, 240, 120), RGB(0, 0, 255));
+  for (const auto& [hue, saturation, luminance, rgb] :
+       {std::tuple{0.0f, 0.0f, 120.0f, RGB(127, 127, 127)}, {0.0f, 0.0f, 160.0f, RGB(170, 170, 170)},
+        {80.0f, 240.0f, 120.0f, RGB(0, 255, 0)}, {160.0f, 240.0f, 120.0f, RGB(0, 0, 255)}}) {
+    EXPECT_EQ(HLSToRGB(hue, saturation, luminance), rgb) << hue << " " << saturation;
+  }
 }
 
 TEST(ModColors, HueToRgbWrapsTheCallersTOnceEachWay) {
@@ -50,38 +53,32 @@ TEST(ModColors, HueToRgbWrapsTheCallersTOnceEachWay) {
   EXPECT_EQ(t, -0.5f);
 }
 
-struct Derived {
-  win::COLORREF shadow = 1, border = 1, highlight = 1;
-};
-
-Derived Derive(win::OLE_COLOR color) {
-  Derived d;
-  DeriveButtonColors(color, d.shadow, d.border, d.highlight);
+// Shadow, border and highlight.
+std::array<win::COLORREF, 3> Derive(win::OLE_COLOR color) {
+  std::array<win::COLORREF, 3> d{1, 1, 1};
+  DeriveButtonColors(color, d[0], d[1], d[2]);
   return d;
 }
 
 TEST(ModColors, DeriveButtonColorsRoundsLuminanceHalfToEven) {
-  // L = 193.9: highlight at round(216.94) = 217, shadow at round(129.25) = 129.
-  const Derived face = Derive(RGB(212, 208, 200));
-  EXPECT_EQ(face.highlight, RGB(233, 231, 227));
-  EXPECT_EQ(face.shadow, RGB(151, 142, 122));
-  EXPECT_EQ(face.border, 0u);
-  EXPECT_EQ(Derive(RGB(255, 255, 255)).highlight, RGB(255, 255, 255));
-  EXPECT_EQ(Derive(RGB(255, 255, 255)).shadow, RGB(170, 170, 170));
-  EXPECT_EQ(Derive(RGB(0, 0, 0)).highlight, RGB(127, 127, 127));
-  EXPECT_EQ(Derive(RGB(0, 0, 0)).shadow, RGB(0, 0, 0));
-  EXPECT_EQ(Derive(RGB(100, 100, 100)).highlight, RGB(177, 177, 177));
-  EXPECT_EQ(Derive(RGB(100, 100, 100)).shadow, RGB(66, 66, 66));
+  // For the face, L = 193.9: highlight at round(216.94) = 217, shadow at round(129.25) = 129.
+  const std::pair<win::COLORREF, std::array<win::COLORREF, 3>> cases[] = {
+      {RGB(212, 208, 200), {RGB(151, 142, 122), 0, RGB(233, 231, 227)}},
+      {RGB(255, 255, 255), {RGB(170, 170, 170), 0, RGB(255, 255, 255)}},
+      {RGB(0, 0, 0), {RGB(0, 0, 0), 0, RGB(127, 127, 127)}},
+      {RGB(100, 100, 100), {RGB(66, 66, 66), 0, RGB(177, 177, 177)}},
+  };
+  for (const auto& [face, derived] : cases) EXPECT_EQ(Derive(face), derived) << std::hex << face;
 }
 
 TEST(ModColors, DeriveButtonColorsResolvesSystemColoursAtTheCall) {
   constexpr win::OLE_COLOR kButtonFace = 0x80000000u | win::COLOR_BTNFACE;
-  EXPECT_EQ(Derive(kButtonFace).shadow, RGB(151, 142, 122));
+  EXPECT_EQ(Derive(kButtonFace)[0], RGB(151, 142, 122));
   auto& engine = win::soft::ThreadSoftEngine();
   auto scheme = win::soft::ClassicSystemColors();
   scheme[win::COLOR_BTNFACE] = RGB(255, 255, 255);
   engine.SetSystemColors(scheme);
-  EXPECT_EQ(Derive(kButtonFace).shadow, RGB(170, 170, 170));
+  EXPECT_EQ(Derive(kButtonFace)[0], RGB(170, 170, 170));
   engine.SetSystemColors(win::soft::ClassicSystemColors());
 }
 

@@ -1,12 +1,14 @@
 // Fonts and text on Canvas and cDIBSection.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstring>
 #include <memory>
 
 #include "platform/soft/soft_engine.h"
 #include "surface/canvas.h"
 #include "surface/dib_section.h"
+#include "tests/support/gdi_scope.h"
 #include "tests/support/leak_check.h"
 #include "tests/support/pinned_font.h"
 #include "tests/surface/surface_test_support.h"
@@ -62,22 +64,12 @@ int InkCount(HDC hdc, int width, int height) {
 // The host's context, holding the control's font: 8 points, italic and struck out.
 class SurfaceText : public ::testing::Test {
  protected:
-  SurfaceText()
-      : host_(win::CreateCompatibleDC(nullptr)),
-        font_(
-            win::CreateFontA(-11, 0, 0, 0, win::FW_NORMAL, 1, 0, 1, 0, 0, 0, 0, 0, "MS Shell Dlg")),
-        previous_(win::SelectObject(host_, font_)) {}
-  ~SurfaceText() override {
-    win::SelectObject(host_, previous_);
-    win::DeleteObject(font_);
-    win::DeleteDC(host_);
-  }
-
   LeakCheck leaks_;
   PinnedFont pinned_;
-  HDC host_;
-  win::HFONT font_;
-  win::HGDIOBJ previous_;
+  Owned<HDC> host_{win::CreateCompatibleDC(nullptr)};
+  Owned<win::HFONT> font_{
+      win::CreateFontA(-11, 0, 0, 0, win::FW_NORMAL, 1, 0, 1, 0, 0, 0, 0, 0, "MS Shell Dlg")};
+  Selected selected_{host_, font_};
 };
 
 TEST_F(SurfaceText, CreateFontCopiesTheHostFontAtAntialiasedQuality) {
@@ -102,20 +94,18 @@ TEST_F(SurfaceText, SetFontChangesBoldItalicAndUnderlineOnly) {
   auto canvas = MakeCanvas(40, 20);
   canvas->CreateFont(host_);
   canvas->SetFont(true, false, true);
-  win::LOGFONTA font = SelectedFont(canvas->hdc());
-  EXPECT_EQ(font.lfWeight, 551);
-  EXPECT_EQ(font.lfItalic, 0);
-  EXPECT_EQ(font.lfUnderline, 1);
-  EXPECT_NE(font.lfStrikeOut, 0);
-  EXPECT_EQ(font.lfHeight, 13);
-  EXPECT_EQ(font.lfQuality, win::ANTIALIASED_QUALITY);
-  EXPECT_EQ(MetricsOf(canvas->hdc()).tmWeight, 700);  // 551 is enough for a bold face
+  // Weight, italic, underline and the weight drawn; 551 is enough for a bold face.
+  auto state = [&canvas] {
+    const win::LOGFONTA font = SelectedFont(canvas->hdc());
+    EXPECT_NE(font.lfStrikeOut, 0);
+    EXPECT_EQ(font.lfHeight, 13);
+    EXPECT_EQ(font.lfQuality, win::ANTIALIASED_QUALITY);
+    return std::array<long, 4>{font.lfWeight, font.lfItalic, font.lfUnderline,
+                               MetricsOf(canvas->hdc()).tmWeight};
+  };
+  EXPECT_EQ(state(), (std::array<long, 4>{551, 0, 1, 700}));
   canvas->SetFont(false, true, false);
-  font = SelectedFont(canvas->hdc());
-  EXPECT_EQ(font.lfWeight, 0);
-  EXPECT_EQ(font.lfItalic, 1);
-  EXPECT_EQ(font.lfUnderline, 0);
-  EXPECT_EQ(MetricsOf(canvas->hdc()).tmWeight, 400);
+  EXPECT_EQ(state(), (std::array<long, 4>{0, 1, 0, 400}));
 }
 
 TEST_F(SurfaceText, PrintTextTakesZeroForTheCurrentPosition) {
