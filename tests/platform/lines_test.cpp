@@ -1,3 +1,5 @@
+// Line drawing properties and edge cases. The pen styles, their dash patterns and opaque gaps,
+// and the sixteen mixes are compared with the system's GDI by the Windows parity tests.
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -97,73 +99,6 @@ TEST(LineTo, HugeCoordinatesAreClippedBeforeStepping) {
   const auto picture = s.Picture();
   EXPECT_NE(picture[2], "......");
   EXPECT_NE(picture[4].find('#'), std::string::npos);
-}
-
-TEST(LineTo, CosmeticDashPatternsRestartWithEachCallAndFillGapsWhenOpaque) {
-  LeakCheck leaks;
-  const std::pair<int, const char*> cases[] = {
-      {PS_SOLID, "##############################."},
-      {PS_DASH, "##################......######."},
-      {PS_DOT, "###...###...###...###...###...."},
-      {PS_DASHDOT, "#########......###......######."},
-      {PS_DASHDOTDOT, "#########...###...###...######."},
-      {PS_NULL, "..............................."},
-  };
-  for (const auto& [style, expected] : cases) {
-    RasterSurface s(31, 1);
-    s.UsePen(style, 1, RGB(0, 0, 0));
-    Line(s.dc(), 0, 0, 30, 0);
-    EXPECT_EQ(s.Picture()[0], expected) << "style " << style;
-  }
-  RasterSurface s(24, 3);
-  s.UsePen(PS_DASH, 1, RGB(0, 0, 0));
-  MoveToEx(s.dc(), 0, 0, nullptr);
-  LineTo(s.dc(), 10, 0);
-  LineTo(s.dc(), 20, 0);
-  s.UsePen(PS_DOT, 1, RGB(0, 0, 0));
-  SetBkColor(s.dc(), RGB(255, 0, 0));
-  Line(s.dc(), 0, 1, 12, 1);
-  SetBkMode(s.dc(), TRANSPARENT);
-  Line(s.dc(), 0, 2, 12, 2);
-  const auto p = s.Picture({{RGB(255, 0, 0), 'r'}});
-  EXPECT_EQ(p[0], "####################....");
-  EXPECT_EQ(p[1], "###rrr###rrr............");
-  EXPECT_EQ(p[2], "###...###...............");
-}
-
-TEST(LineTo, DashesRunFromTheStartPointInEveryDirection) {
-  LeakCheck leaks;
-  RasterSurface s(31, 31);
-  s.UsePen(PS_DASHDOT, 1, RGB(0, 0, 0));
-  Line(s.dc(), 30, 0, 0, 0);
-  EXPECT_EQ(s.Picture()[0], ".######......###......#########");
-  Line(s.dc(), 0, 1, 0, 30);
-  Line(s.dc(), 2, 2, 30, 30);
-  const auto p = s.Picture();
-  std::string column, diagonal;
-  for (int i = 1; i < 30; ++i) column += p[i][0];
-  for (int i = 2; i < 30; ++i) diagonal += p[i][i];
-  EXPECT_EQ(column, "#########......###......#####");
-  EXPECT_EQ(diagonal, "#########......###......####");
-}
-
-TEST(LineTo, AllSixteenMixesWorkOnDevicePixels) {
-  LeakCheck leaks;
-  const COLORREF destination = RGB(0x55, 0xAA, 0x0F), pen = RGB(0xF0, 0xCC, 0x33);
-  const unsigned d = 0x55AA0F, p = 0xF0CC33;
-  const unsigned expected[17] = {0,       0,        ~(d | p), ~p & d,  ~p,     p & ~d,
-                                 ~d,      p ^ d,    ~(p & d), p & d,   ~(p ^ d),
-                                 d,       ~p | d,   p,        p | ~d,  p | d,  ~0u};
-  for (int rop = R2_BLACK; rop <= R2_WHITE; ++rop) {
-    RasterSurface s(3, 1);
-    s.Clear(destination);
-    s.UsePen(PS_SOLID, 1, pen);
-    SetROP2(s.dc(), rop);
-    Line(s.dc(), 0, 0, 2, 0);
-    const unsigned want = expected[rop];
-    EXPECT_EQ(GetPixel(s.dc(), 1, 0), RGB(want >> 16, want >> 8, want)) << "rop2 " << rop;
-    EXPECT_EQ(GetPixel(s.dc(), 2, 0), destination);
-  }
 }
 
 TEST(LineTo, WidePensHaveRoundEndsAndDrawDashedStylesSolid) {
