@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstring>
 #include <utility>
 
@@ -15,11 +16,10 @@ using namespace win;
 TEST(StdFont, BoldAndWeightAreOneValue) {
   StdFont font;
   EXPECT_EQ(font.Weight(), 400);
-  EXPECT_FALSE(font.Bold());
-  font.Weight(551);
-  EXPECT_TRUE(font.Bold());
-  font.Weight(550);
-  EXPECT_FALSE(font.Bold());
+  for (const auto& [weight, bold] : {std::pair{400, false}, {550, false}, {551, true}}) {
+    font.Weight(static_cast<std::int16_t>(weight));
+    EXPECT_EQ(font.Bold(), bold) << weight;
+  }
   font.Bold(true);
   EXPECT_EQ(font.Weight(), 700);
   font.Weight(900);
@@ -30,16 +30,13 @@ TEST(StdFont, BoldAndWeightAreOneValue) {
 TEST(StdFont, SizeKeepsFourDecimals) {
   StdFont font;
   EXPECT_EQ(font.SizeTenThousandths(), 82500);  // 8.25 points
-  font.Size(8.123456);
-  EXPECT_EQ(font.SizeTenThousandths(), 81235);
-  EXPECT_DOUBLE_EQ(font.Size(), 8.1235);
-  font.Size(10.00004);
-  EXPECT_EQ(font.SizeTenThousandths(), 100000);
-  // Both land on a half exactly; halves go to the even neighbour.
-  font.Size(0.00025);
-  EXPECT_EQ(font.SizeTenThousandths(), 2);
-  font.Size(0.00035);
-  EXPECT_EQ(font.SizeTenThousandths(), 4);
+  // The last two land on a half exactly; halves go to the even neighbour.
+  for (const auto& [points, stored] :
+       {std::pair{8.123456, 81235}, {10.00004, 100000}, {0.00025, 2}, {0.00035, 4}}) {
+    font.Size(points);
+    EXPECT_EQ(font.SizeTenThousandths(), stored) << points;
+  }
+  EXPECT_DOUBLE_EQ(font.Size(), 0.0004);
   font.Size(1e300);  // beyond the host's range: refused
   EXPECT_EQ(font.SizeTenThousandths(), 4);
 }
@@ -58,14 +55,18 @@ TEST(StdFont, LogicalFontAtNinetySixPixelsPerInch) {
   font.Italic(true);
   font.Strikethrough(true);
   font.Charset(SYMBOL_CHARSET);
-  const LOGFONTA logFont = font.ToLogFont();
-  EXPECT_EQ(logFont.lfWeight, 551);
-  EXPECT_EQ(logFont.lfItalic, 1);
-  EXPECT_EQ(logFont.lfUnderline, 0);
-  EXPECT_EQ(logFont.lfStrikeOut, 1);
-  EXPECT_EQ(logFont.lfCharSet, SYMBOL_CHARSET);
-  EXPECT_EQ(logFont.lfWidth, 0);
-  EXPECT_EQ(std::strlen(logFont.lfFaceName), static_cast<std::size_t>(LF_FACESIZE - 1));
+  const LOGFONTA f = font.ToLogFont();
+  EXPECT_EQ((std::array<long, 6>{f.lfWeight, f.lfItalic, f.lfUnderline, f.lfStrikeOut,
+                                 f.lfCharSet, f.lfWidth}),
+            (std::array<long, 6>{551, 1, 0, 1, SYMBOL_CHARSET, 0}));
+  EXPECT_EQ(std::strlen(f.lfFaceName), static_cast<std::size_t>(LF_FACESIZE - 1));
+
+  // Copies are independent values.
+  StdFont copy = font;
+  EXPECT_EQ(copy, font);
+  copy.Italic(false);
+  EXPECT_TRUE(font.Italic());
+  EXPECT_NE(copy, font);
 }
 
 TEST(StdFont, HandleCarriesTheLogicalFontAndBelongsToTheCaller) {
@@ -79,15 +80,6 @@ TEST(StdFont, HandleCarriesTheLogicalFontAndBelongsToTheCaller) {
   const LOGFONTA expected = font.ToLogFont();
   EXPECT_EQ(std::memcmp(&stored, &expected, sizeof stored), 0);
   EXPECT_TRUE(DeleteObject(handle));
-}
-
-TEST(StdFont, CopiesAreIndependentValues) {
-  StdFont a;
-  StdFont b = a;
-  EXPECT_EQ(a, b);
-  b.Italic(true);
-  EXPECT_FALSE(a.Italic());
-  EXPECT_NE(a, b);
 }
 
 }  // namespace

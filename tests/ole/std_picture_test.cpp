@@ -33,13 +33,6 @@ TEST(StdPicture, NoObjectEmptyAndMetafilesAreHandleless) {
   EXPECT_TRUE(StdPicture::Metafile(PICTYPE_BITMAP, 1, 1).IsNothing());
 }
 
-TEST(StdPicture, HiMetricRoundsHalvesAwayFromZero) {
-  EXPECT_EQ(StdPicture::PixelsToHiMetric(1), 26);    // 26.46
-  EXPECT_EQ(StdPicture::PixelsToHiMetric(32), 847);  // 846.67
-  EXPECT_EQ(StdPicture::PixelsToHiMetric(12), 318);  // 317.5
-  EXPECT_EQ(StdPicture::PixelsToHiMetric(36), 953);  // 952.5: not to even
-}
-
 TEST(StdPicture, DescriptionsMakeMeasuredPictures) {
   testing::LeakCheck leaks;
   PICTDESC description{};
@@ -52,8 +45,11 @@ TEST(StdPicture, DescriptionsMakeMeasuredPictures) {
   EXPECT_EQ(bitmap.Bitmap(), description.bmp.hbitmap);
   EXPECT_EQ(bitmap.Icon(), nullptr);
   EXPECT_EQ(bitmap.Palette(), description.bmp.hpal);
+  // HiMetric rounds halves away from zero: 36 pixels are 952.5, 12 are 317.5.
   EXPECT_EQ(bitmap.Width(), 953);
   EXPECT_EQ(bitmap.Height(), 318);
+  EXPECT_EQ(StdPicture::PixelsToHiMetric(1), 26);    // 26.46
+  EXPECT_EQ(StdPicture::PixelsToHiMetric(32), 847);  // 846.67
 
   description.picType = PICTYPE_NONE;
   EXPECT_EQ(StdPicture::FromDescription(description, true).Type(), PICTYPE_NONE);
