@@ -8,12 +8,15 @@
 #include "platform/codec/picture_error.h"
 #include "platform/codec/picture_objects.h"
 #include "tests/picture/picture_samples.h"
+#include "tests/support/gdi_scope.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon::testing {
 namespace {
 
 using namespace win;
+using testing::Owned;
+using testing::Selected;
 
 constexpr std::uint32_t kCyan = 0x00FFFF;      // the buttons' default mask colour, as 0xRRGGBB
 constexpr std::uint32_t kNearCyan = 0x00FEFF;  // one step off: must not count as mask colour
@@ -63,28 +66,23 @@ TEST(PictureLoading, MaskColourPixelsAndOnlyThoseTurnWhiteInTheMonochromeStep) {
   const StdPicture picture = LoadPictureData(MaskedBmp());
   // The transparent copy: picture to a compatible bitmap, then to a monochrome one against the
   // mask colour as background.
-  HDC source = CreateCompatibleDC(nullptr);
-  HGDIOBJ sourceOld = SelectObject(source, picture.Bitmap());
-  HDC work = CreateCompatibleDC(nullptr);
-  HBITMAP copy = CreateCompatibleBitmap(source, 4, 2);
-  HGDIOBJ workOld = SelectObject(work, copy);
-  BitBlt(work, 0, 0, 4, 2, source, 0, 0, SRCCOPY);
-  HDC monoDc = CreateCompatibleDC(nullptr);
-  HBITMAP mono = CreateBitmap(4, 2, 1, 1, nullptr);
-  HGDIOBJ monoOld = SelectObject(monoDc, mono);
-  SetBkColor(work, RGB(0, 255, 255));
-  BitBlt(monoDc, 0, 0, 4, 2, work, 0, 0, SRCCOPY);
-  SelectObject(monoDc, monoOld);
+  Owned source{CreateCompatibleDC(nullptr)}, work{CreateCompatibleDC(nullptr)};
+  Owned monoDc{CreateCompatibleDC(nullptr)};
+  Owned mono{CreateBitmap(4, 2, 1, 1, nullptr)};
+  {
+    Selected fromPicture(source, picture.Bitmap());
+    Owned copy{CreateCompatibleBitmap(source, 4, 2)};
+    Selected toCopy(work, copy), toMono(monoDc, mono);
+    BitBlt(work, 0, 0, 4, 2, source, 0, 0, SRCCOPY);
+    SetBkColor(work, RGB(0, 255, 255));
+    BitBlt(monoDc, 0, 0, 4, 2, work, 0, 0, SRCCOPY);
+  }
   const Image mask = ReadBitmapPixels(mono);
   for (int y = 0; y < 2; ++y) {
-    EXPECT_EQ(Rgb(mask, 0, y), 0xFFFFFFu);
-    for (int x = 1; x < 4; ++x) EXPECT_EQ(Rgb(mask, x, y), 0u) << x << "," << y;
+    for (int x = 0; x < 4; ++x) {
+      EXPECT_EQ(Rgb(mask, x, y), x == 0 ? 0xFFFFFFu : 0u) << x << "," << y;
+    }
   }
-  SelectObject(work, workOld);
-  SelectObject(source, sourceOld);
-  for (HDC dc : {source, work, monoDc}) DeleteDC(dc);
-  DeleteObject(copy);
-  DeleteObject(mono);
 }
 
 TEST(PictureLoading, IconsAreTheBestFitWithMaskAndAlpha) {
