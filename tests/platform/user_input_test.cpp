@@ -14,16 +14,6 @@ LRESULT GLYPHON_CALLBACK FocusProbe(HWND hwnd, UINT message, WPARAM wParam, LPAR
   return RecordingProc(hwnd, message, wParam, lParam);
 }
 
-std::vector<std::pair<HWND, UINT>> FocusTrail() {
-  std::vector<std::pair<HWND, UINT>> trail;
-  for (const Received& r : Log()) {
-    if (r.message == WM_KILLFOCUS || r.message == WM_SETFOCUS) {
-      trail.emplace_back(r.hwnd, r.message);
-    }
-  }
-  return trail;
-}
-
 TEST_F(InputTest, FocusMovesWithKillFocusFirstAndNamesTheOtherWindow) {
   HWND top = TopLevel({0, 0, 100, 100});
   HWND a = Child(top, {0, 0, 10, 10});
@@ -32,8 +22,7 @@ TEST_F(InputTest, FocusMovesWithKillFocusFirstAndNamesTheOtherWindow) {
   EXPECT_EQ(SetFocus(a), nullptr);
   Log().clear();
   EXPECT_EQ(SetFocus(b), a);
-  EXPECT_EQ(FocusTrail(),
-            (std::vector<std::pair<HWND, UINT>>{{a, WM_KILLFOCUS}, {b, WM_SETFOCUS}}));
+  EXPECT_EQ(TrailOf({WM_KILLFOCUS, WM_SETFOCUS}), (Trail{{a, WM_KILLFOCUS}, {b, WM_SETFOCUS}}));
   EXPECT_EQ(Of(a, {WM_KILLFOCUS})[0].wParam, reinterpret_cast<WPARAM>(b));
   EXPECT_EQ(Of(b, {WM_SETFOCUS})[0].wParam, reinterpret_cast<WPARAM>(a));
   EXPECT_EQ(focusSeenInKillFocus, b);  // the focus has moved before the messages go out
@@ -44,10 +33,10 @@ TEST_F(InputTest, FocusMovesWithKillFocusFirstAndNamesTheOtherWindow) {
   EXPECT_EQ(SetFocus(a), nullptr);  // inside a disabled parent
   EXPECT_EQ(GetFocus(), b);
   EnableWindow(top, TRUE);
-  EXPECT_TRUE(FocusTrail().empty());
+  EXPECT_TRUE(TrailOf({WM_KILLFOCUS, WM_SETFOCUS}).empty());
 
   EnableWindow(b, FALSE);  // a disabled window loses the focus to nobody
-  EXPECT_EQ(FocusTrail(), (std::vector<std::pair<HWND, UINT>>{{b, WM_KILLFOCUS}}));
+  EXPECT_EQ(TrailOf({WM_KILLFOCUS, WM_SETFOCUS}), (Trail{{b, WM_KILLFOCUS}}));
   EXPECT_EQ(Of(b, {WM_KILLFOCUS})[0].wParam, 0u);
   EXPECT_EQ(GetFocus(), nullptr);
   DestroyWindow(top);

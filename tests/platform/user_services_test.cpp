@@ -22,11 +22,9 @@ TEST_F(ServicesTest, ChangingTheSystemColoursTellsEveryWindowParentsFirst) {
   soft::SystemColors colors = soft::ClassicSystemColors();
   colors[COLOR_BTNFACE] = RGB(1, 2, 3);
   soft::ThreadSoftEngine().SetSystemColors(colors);
-  std::vector<HWND> told;
-  for (const Received& r : Log()) {
-    if (r.message == WM_SYSCOLORCHANGE) told.push_back(r.hwnd);
-  }
-  EXPECT_EQ(told, (std::vector<HWND>{other, top, child}));  // z-order, then down the tree
+  EXPECT_EQ(TrailOf({WM_SYSCOLORCHANGE}),  // z-order, then down the tree
+            (Trail{{other, WM_SYSCOLORCHANGE}, {top, WM_SYSCOLORCHANGE},
+                   {child, WM_SYSCOLORCHANGE}}));
   EXPECT_EQ(GetSysColor(COLOR_BTNFACE), RGB(1, 2, 3));
   soft::ThreadSoftEngine().SetSystemColors(soft::ClassicSystemColors());
   DestroyWindow(top);

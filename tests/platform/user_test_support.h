@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "platform/soft/soft_engine.h"
@@ -89,6 +90,17 @@ class UserTest : public ::testing::Test {
   static std::vector<UINT> Kinds(const std::vector<Received>& received) {
     std::vector<UINT> out;
     for (const Received& r : received) out.push_back(r.message);
+    return out;
+  }
+  // The logged messages of the given kinds, of any window, in order.
+  using Trail = std::vector<std::pair<HWND, UINT>>;
+  static Trail TrailOf(std::initializer_list<UINT> kinds) {
+    Trail out;
+    for (const Received& r : Log()) {
+      if (std::find(kinds.begin(), kinds.end(), r.message) != kinds.end()) {
+        out.emplace_back(r.hwnd, r.message);
+      }
+    }
     return out;
   }
 

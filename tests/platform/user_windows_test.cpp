@@ -93,9 +93,6 @@ TEST_F(WindowTest, SubclassingChainsProceduresAndRestores) {
   SetWindowLongPtrA(hwnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(innerPrevious));
   EXPECT_EQ(GetWindowLongPtrA(hwnd, GWLP_WNDPROC), reinterpret_cast<LONG_PTR>(original));
 
-  int object = 0;
-  EXPECT_EQ(SetWindowLongPtrA(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&object)), 0);
-  EXPECT_EQ(GetWindowLongPtrA(hwnd, GWLP_USERDATA), reinterpret_cast<LONG_PTR>(&object));
   HWND child = CreateWindowExA(0, kRecorder, "", WS_CHILD, 0, 0, 1, 1, hwnd,
                                reinterpret_cast<HMENU>(std::intptr_t{42}), nullptr, nullptr);
   EXPECT_EQ(GetWindowLongPtrA(child, GWLP_ID), 42);  // a child's menu handle is its id
@@ -119,18 +116,10 @@ TEST_F(WindowTest, DestroyingReleasesTheWholeTreeInWindowsOrder) {
   Log().clear();
 
   EXPECT_TRUE(DestroyWindow(top));
-  std::vector<std::pair<HWND, UINT>> order;
-  for (const Received& r : Log()) {
-    if (r.message == WM_DESTROY || r.message == WM_NCDESTROY) order.emplace_back(r.hwnd, r.message);
-  }
-  EXPECT_EQ(order, (std::vector<std::pair<HWND, UINT>>{{owned, WM_DESTROY},
-                                                       {owned, WM_NCDESTROY},
-                                                       {top, WM_DESTROY},
-                                                       {child, WM_DESTROY},
-                                                       {grandchild, WM_DESTROY},
-                                                       {grandchild, WM_NCDESTROY},
-                                                       {child, WM_NCDESTROY},
-                                                       {top, WM_NCDESTROY}}));
+  EXPECT_EQ(TrailOf({WM_DESTROY, WM_NCDESTROY}),
+            (Trail{{owned, WM_DESTROY}, {owned, WM_NCDESTROY}, {top, WM_DESTROY},
+                   {child, WM_DESTROY}, {grandchild, WM_DESTROY}, {grandchild, WM_NCDESTROY},
+                   {child, WM_NCDESTROY}, {top, WM_NCDESTROY}}));
   // Hiding the tree took the focus away with a message; the rest went silently.
   EXPECT_EQ(Kinds(Of(grandchild, {WM_KILLFOCUS})), (std::vector<UINT>{WM_KILLFOCUS}));
   for (HWND h : {top, child, grandchild, owned}) EXPECT_FALSE(IsWindow(h));
