@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "tests/platform/memory_surface.h"
+#include "tests/support/gdi_scope.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon::testing {
@@ -55,18 +57,17 @@ TEST_F(ImageCompare, MismatchWritesActualAndDiffNextToExpected) {
   const auto expected = dir_ / "shape.png";
   ASSERT_TRUE(WritePngFile(Checker(), expected));
 
-  // A bitmap showing the checker except one pixel.
-  BITMAPINFO info{};
-  info.bmiHeader = {sizeof(BITMAPINFOHEADER), 4, -3, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-  void* bits = nullptr;
-  HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-  ASSERT_NE(bitmap, nullptr);
-  std::memcpy(bits, Checker().bgra.data(), 4 * 3 * 4);
-  EXPECT_TRUE(BitmapMatchesPng(bitmap, expected));
+  // A bitmap showing the checker, then all but one pixel of it.
+  std::vector<std::uint32_t> pixels(12);
+  std::memcpy(pixels.data(), Checker().bgra.data(), 4 * 3 * 4);
+  MemorySurface bitmap(4, 3, 32, {});
+  bitmap.Set(pixels);
+  EXPECT_TRUE(BitmapMatchesPng(bitmap.bitmap(), expected));
   EXPECT_FALSE(std::filesystem::exists(ActualPathFor(expected)));
 
-  static_cast<std::uint8_t*>(bits)[0] = 7;
-  const auto result = BitmapMatchesPng(bitmap, expected);
+  pixels[0] = (pixels[0] & ~0xFFu) | 7;
+  bitmap.Set(pixels);
+  const auto result = BitmapMatchesPng(bitmap.bitmap(), expected);
   EXPECT_FALSE(result);
   EXPECT_NE(std::string(result.message()).find("1 of 12 pixels differ; first at (0, 0)"),
             std::string::npos)
@@ -79,7 +80,6 @@ TEST_F(ImageCompare, MismatchWritesActualAndDiffNextToExpected) {
   EXPECT_EQ(diff->Pixel(0, 0)[2], 255);  // the differing pixel is red
   EXPECT_EQ(diff->Pixel(0, 0)[1], 0);
   EXPECT_EQ(diff->Pixel(1, 0)[0], diff->Pixel(1, 0)[2]);  // equal pixels are grey
-  DeleteObject(bitmap);
 }
 
 void SetUpdateGolden(bool update) {
@@ -97,39 +97,27 @@ void SetUpdateGolden(bool update) {
 TEST_F(ImageCompare, MissingExpectedImageFailsUnlessUpdating) {
   LeakCheck leaks;
   const auto expected = dir_ / "new.png";
-  HBITMAP bitmap = CreateBitmap(2, 2, 1, 32, nullptr);
-  const auto result = BitmapMatchesPng(bitmap, expected);
-  EXPECT_FALSE(result);
+  Owned bitmap{CreateBitmap(2, 2, 1, 32, nullptr)};
+  EXPECT_FALSE(BitmapMatchesPng(bitmap, expected));
   EXPECT_TRUE(std::filesystem::exists(ActualPathFor(expected)));
 
   SetUpdateGolden(true);
   EXPECT_TRUE(BitmapMatchesPng(bitmap, expected));
   SetUpdateGolden(false);
   EXPECT_TRUE(BitmapMatchesPng(bitmap, expected));
-  DeleteObject(bitmap);
 }
 
 TEST_F(ImageCompare, ComparesBitmapsAndDcAreas) {
   LeakCheck leaks;
-  HBITMAP a = CreateBitmap(3, 3, 1, 32, nullptr);
-  HBITMAP b = CreateBitmap(3, 3, 1, 32, nullptr);
-  EXPECT_TRUE(BitmapsEqual(a, b));
-  const std::uint32_t white[9] = {0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF,
-                                  0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF};
-  SetBitmapBits(b, sizeof white, white);
-  EXPECT_FALSE(BitmapsEqual(a, b));
+  MemorySurface a(3, 3, 32), b(3, 3, 32);
+  EXPECT_TRUE(BitmapsEqual(a.bitmap(), b.bitmap()));
+  b.Clear(RGB(255, 255, 255));
+  EXPECT_FALSE(BitmapsEqual(a.bitmap(), b.bitmap()));
 
-  HDC dc = CreateCompatibleDC(nullptr);
-  HGDIOBJ old = SelectObject(dc, b);
   const auto area = dir_ / "area.png";
   ASSERT_TRUE(WritePngFile(Image::Blank(2, 1), area));
-  const RECT inside{1, 1, 3, 2};
-  EXPECT_FALSE(DcAreaMatchesPng(dc, inside, area));            // white, not transparent black
-  EXPECT_FALSE(DcAreaMatchesPng(dc, RECT{2, 2, 4, 3}, area));  // leaves the bitmap
-  SelectObject(dc, old);
-  DeleteDC(dc);
-  DeleteObject(a);
-  DeleteObject(b);
+  EXPECT_FALSE(DcAreaMatchesPng(b.dc(), RECT{1, 1, 3, 2}, area));  // white, not transparent black
+  EXPECT_FALSE(DcAreaMatchesPng(b.dc(), RECT{2, 2, 4, 3}, area));  // leaves the bitmap
 }
 
 }  // namespace
