@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/win32.h"
+#include "tests/support/gdi_scope.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon::win {
@@ -50,8 +51,7 @@ TEST(GdiObjects, StockObjectsSurviveDeletion) {
 
 TEST(GdiObjects, BitmapLivesInOneMemoryDcAtATime) {
   testing::LeakCheck leaks;
-  HDC screen = CreateCompatibleDC(nullptr);
-  HDC first = CreateCompatibleDC(nullptr);
+  testing::Owned first{CreateCompatibleDC(nullptr)};
   HDC second = CreateCompatibleDC(nullptr);
   HBITMAP bitmap = CreateBitmap(8, 8, 1, 32, nullptr);
   HGDIOBJ original = SelectObject(first, bitmap);
@@ -63,13 +63,11 @@ TEST(GdiObjects, BitmapLivesInOneMemoryDcAtATime) {
   EXPECT_NE(SelectObject(second, bitmap), nullptr);
   DeleteDC(second);  // deselects, so the bitmap can go
   EXPECT_TRUE(DeleteObject(bitmap));
-  DeleteDC(first);
-  DeleteDC(screen);
 }
 
 TEST(GdiObjects, ZeroSizedBitmapsAreTheMonochromeStockBitmap) {
   testing::LeakCheck leaks;
-  HDC dc = CreateCompatibleDC(nullptr);
+  testing::Owned dc{CreateCompatibleDC(nullptr)};
   HBITMAP empty = CreateCompatibleBitmap(dc, 0, 10);
   BITMAP info{};
   ASSERT_EQ(GetObjectA(empty, sizeof info, &info), static_cast<int>(sizeof info));
@@ -78,14 +76,13 @@ TEST(GdiObjects, ZeroSizedBitmapsAreTheMonochromeStockBitmap) {
   EXPECT_TRUE(DeleteObject(empty));
   EXPECT_EQ(CreateBitmap(16385, 1, 1, 32, nullptr), nullptr);
   EXPECT_EQ(CreateBitmap(16384, 16384, 1, 32, nullptr), nullptr);  // over 256 MiB
-  DeleteDC(dc);
 }
 
 TEST(GdiObjects, SaveAndRestoreBringBackAttributesAndObjects) {
   testing::LeakCheck leaks;
-  HDC dc = CreateCompatibleDC(nullptr);
+  testing::Owned dc{CreateCompatibleDC(nullptr)};
+  testing::Owned pen{CreatePen(PS_DOT, 1, 0)};
   SetBkColor(dc, RGB(1, 1, 1));
-  HPEN pen = CreatePen(PS_DOT, 1, 0);
   const int level = SaveDC(dc);
   EXPECT_EQ(level, 1);
   SelectObject(dc, pen);
@@ -94,8 +91,6 @@ TEST(GdiObjects, SaveAndRestoreBringBackAttributesAndObjects) {
   EXPECT_EQ(GetBkColor(dc), RGB(1, 1, 1));
   EXPECT_EQ(GetCurrentObject(dc, OBJ_PEN), GetStockObject(BLACK_PEN));
   EXPECT_FALSE(RestoreDC(dc, 1));
-  DeleteObject(pen);
-  DeleteDC(dc);
 }
 
 }  // namespace

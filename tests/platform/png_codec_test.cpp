@@ -44,15 +44,6 @@ void SetHeaderSize(std::vector<std::uint8_t>& png, std::uint32_t width, std::uin
   for (int i = 0; i < 4; ++i) png[29 + i] = static_cast<std::uint8_t>(crc >> (24 - 8 * i));
 }
 
-TEST(PngCodec, RoundTripKeepsEveryChannelIncludingAlpha) {
-  const Image image = Sample();
-  const auto bytes = EncodePng(image);
-  ASSERT_TRUE(bytes);
-  const auto decoded = DecodePng(*bytes);
-  ASSERT_TRUE(decoded);
-  EXPECT_EQ(*decoded, image);
-}
-
 TEST(PngCodec, OtherFormatsComeOutAsEightBitBgra) {
   const std::uint8_t grey[] = {0x40, 0xC0};
   auto decoded = DecodePng(WriteWithLibpng(PNG_FORMAT_GRAY, grey, 2, nullptr, 0));
@@ -101,7 +92,7 @@ TEST(PngCodec, HugeDimensionsAreRefusedBeforeAllocating) {
   EXPECT_FALSE(DecodePng(bytes, &error));
 }
 
-TEST(PngCodec, FilesRoundTripAndMissingFilesNameThePath) {
+TEST(PngCodec, FilesRoundTripEveryChannelIncludingAlphaAndMissingFilesNameThePath) {
   const auto path = std::filesystem::path(::testing::TempDir()) / "png_codec_round_trip.png";
   ASSERT_TRUE(WritePngFile(Sample(), path));
   const auto read = ReadPngFile(path);
