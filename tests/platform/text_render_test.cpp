@@ -1,3 +1,6 @@
+// Glyph rendering, and the golden image of a caption as the button draws it: wrapped, centred,
+// underlined, smoothed. Regenerate that only on purpose, after checking the new picture by eye:
+//   GLYPHON_UPDATE_GOLDEN=1 build/debug/tests/platform_tests --gtest_filter='TextGolden.*'
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -5,6 +8,7 @@
 #include <tuple>
 
 #include "tests/platform/text_canvas.h"
+#include "tests/support/image_compare.h"
 #include "tests/support/leak_check.h"
 #include "tests/support/pinned_font.h"
 
@@ -203,6 +207,20 @@ TEST_F(TextRender, StringsAreUtf8WithWindows1252ForStrayBytes) {
   GetTextExtentPoint32A(canvas.Dc(), "\x80", 1, &euroByte);
   EXPECT_EQ(euro.cx, euroByte.cx);
   EXPECT_GT(euro.cx, 0);
+}
+
+TEST(TextGolden, WrappedCentredUnderlinedCaption) {
+  testing::LeakCheck leaks;
+  testing::PinnedFont pinned;
+  testing::TextCanvas canvas(72, 50, 32, RGB(212, 208, 200));
+  testing::ScopedFont font(canvas.Dc(), CreateFontA(-11, 0, 0, 0, FW_NORMAL, 0, 1, 0, 0, 0, 0,
+                                                    ANTIALIASED_QUALITY, 0, "MS Sans Serif"));
+  SetBkMode(canvas.Dc(), TRANSPARENT);
+  SetTextColor(canvas.Dc(), RGB(0, 0, 128));
+  RECT rect{4, 4, 68, 46};
+  DrawTextA(canvas.Dc(), "&Wrapped and centred", -1, &rect,
+            DT_WORDBREAK | DT_EDITCONTROL | DT_CENTER);
+  EXPECT_TRUE(testing::DcMatchesPng(canvas.Dc(), GLYPHON_GOLDEN_DIR "/text/wrapped_caption.png"));
 }
 
 }  // namespace
