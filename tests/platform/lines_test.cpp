@@ -25,6 +25,8 @@ using testing::RasterSurface;
 using Picture = std::vector<std::string>;
 using Pixels = std::set<std::pair<int, int>>;
 
+constexpr COLORREF kRed = RGB(255, 0, 0);
+
 void Line(HDC dc, int x0, int y0, int x1, int y1) {
   MoveToEx(dc, x0, y0, nullptr);
   LineTo(dc, x1, y1);
@@ -147,7 +149,6 @@ TEST(LineTo, BadDcsAreRefused) {
   EXPECT_FALSE(LineTo(nullptr, 1, 1));
 }
 
-constexpr COLORREF kRed = RGB(255, 0, 0);
 
 TEST(Rectangle, WideOutlinePaintsEachPixelOnceAroundTheInterior) {
   LeakCheck leaks;

@@ -2,6 +2,8 @@
 // tests read and write directly.
 #pragma once
 
+#include <cstring>
+
 #include "platform/soft/soft_engine.h"
 #include "platform/win32.h"
 
@@ -111,9 +113,7 @@ inline win::TEXTMETRICA MetricsOf(win::HDC dc) {
 
 inline long WidthOf(win::HDC dc, const char* text) {
   win::SIZE size{};
-  int count = 0;
-  while (text[count] != '\0') ++count;
-  win::GetTextExtentPoint32A(dc, text, count, &size);
+  win::GetTextExtentPoint32A(dc, text, static_cast<int>(std::strlen(text)), &size);
   return size.cx;
 }
 

@@ -81,6 +81,11 @@ class TooltipTest : public UserTest {
     User().MouseMove(point);
     User().AdvanceClock(soft::Tooltip::kInitialDelay);
   }
+  // Off the button (the form relays nothing), long enough for the tip to notice.
+  void Leave() {
+    User().MouseMove({10, 10});
+    User().AdvanceClock(soft::Tooltip::kReshowDelay);
+  }
 
   HWND form_ = nullptr;
   HWND button_ = nullptr;
@@ -149,8 +154,7 @@ TEST_F(TooltipTest, AButtonPressHidesTheTipUntilThePointerComesBack) {
   User().AdvanceClock(1000);
   EXPECT_FALSE(Tip().visible);  // still on the same tool
 
-  User().MouseMove({10, 10});  // off the button; the form relays nothing
-  User().AdvanceClock(soft::Tooltip::kReshowDelay);
+  Leave();
   HoverUntilShown({70, 65});
   EXPECT_TRUE(Tip().visible);
 }
@@ -186,15 +190,13 @@ TEST_F(TooltipTest, NoTipWhenInactiveWithoutTextOrAfterTheToolIsDeleted) {
   HoverUntilShown({60, 60});
   EXPECT_TRUE(notes.empty());
   SendMessageA(tip_, TTM_ACTIVATE, TRUE, 0);
-  User().MouseMove({10, 10});
-  User().AdvanceClock(soft::Tooltip::kReshowDelay);  // long enough to notice the pointer left
+  Leave();
 
   answer = "";
   HoverUntilShown({60, 60});
   EXPECT_EQ(Codes(), (std::vector<UINT>{TTN_NEEDTEXTA}));
   EXPECT_FALSE(Tip().visible);
-  User().MouseMove({10, 10});
-  User().AdvanceClock(soft::Tooltip::kReshowDelay);
+  Leave();
 
   answer = "Hello";
   SendMessageA(tip_, TTM_DELTOOLA, 0, reinterpret_cast<LPARAM>(&ButtonTool()));
