@@ -79,11 +79,11 @@ TEST(StylePixels, SuppressedRedrawDrawsNoFrame) {
     button.isDefault = true;
     const auto backgroundOnly = MakeFilledCanvas(kW, kH, kMarker);
     PaintBackground(*backgroundOnly, button, DrawStateDown);
-    EXPECT_FALSE(SameArea(DifferingArea(*PaintLook(button, kW, kH, DrawStateDown),
-                                        *backgroundOnly), {}));
+    EXPECT_FALSE(
+        SameArea(DifferingArea(*PaintLook(button, kW, kH, DrawStateDown), *backgroundOnly), {}));
     button.suppressRedraw = true;
-    EXPECT_TRUE(SameArea(DifferingArea(*PaintLook(button, kW, kH, DrawStateDown),
-                                       *backgroundOnly), {}))
+    EXPECT_TRUE(
+        SameArea(DifferingArea(*PaintLook(button, kW, kH, DrawStateDown), *backgroundOnly), {}))
         << "style " << style;
   }
 }
@@ -99,8 +99,8 @@ TEST(StylePixels, DisabledXPButtonIgnoresBackColor) {
       plain.enabled = false;
       TestButton peach = plain;
       peach.SetBackColor(kPeach);
-      EXPECT_TRUE(SameArea(DifferingArea(*PaintLook(plain, kW, kH, state),
-                                         *PaintLook(peach, kW, kH, state)), {}))
+      EXPECT_TRUE(SameArea(
+          DifferingArea(*PaintLook(plain, kW, kH, state), *PaintLook(peach, kW, kH, state)), {}))
           << style << " in state " << state;
     }
   }
