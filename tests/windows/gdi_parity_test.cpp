@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/leak_check.h"
 #include "tests/windows/engine_parity.h"
 #include "tests/windows/gdi_scenarios.h"
 
@@ -414,17 +413,10 @@ std::vector<ParityCase> DibAndIconCases() {
   return cases;
 }
 
-class GdiParity : public ::testing::TestWithParam<ParityCase> {};
-
-TEST_P(GdiParity, BothEnginesPaintTheSamePixels) {
-  LeakCheck leaks;
-  EXPECT_TRUE(EnginesAgree(GetParam()));
-}
-
-INSTANTIATE_TEST_SUITE_P(Lines, GdiParity, ::testing::ValuesIn(LineCases()), ParityCaseName);
-INSTANTIATE_TEST_SUITE_P(Shapes, GdiParity, ::testing::ValuesIn(ShapeCases()), ParityCaseName);
-INSTANTIATE_TEST_SUITE_P(Blits, GdiParity, ::testing::ValuesIn(BlitCases()), ParityCaseName);
-INSTANTIATE_TEST_SUITE_P(DibsAndIcons, GdiParity, ::testing::ValuesIn(DibAndIconCases()),
+INSTANTIATE_TEST_SUITE_P(Lines, EngineParity, ::testing::ValuesIn(LineCases()), ParityCaseName);
+INSTANTIATE_TEST_SUITE_P(Shapes, EngineParity, ::testing::ValuesIn(ShapeCases()), ParityCaseName);
+INSTANTIATE_TEST_SUITE_P(Blits, EngineParity, ::testing::ValuesIn(BlitCases()), ParityCaseName);
+INSTANTIATE_TEST_SUITE_P(DibsAndIcons, EngineParity, ::testing::ValuesIn(DibAndIconCases()),
                          ParityCaseName);
 
 }  // namespace
