@@ -2,6 +2,7 @@
 // silhouettes, blur, icons at the asked size and the invalid-picture error.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "platform/codec/picture_objects.h"
 #include "samples/sample_pictures.h"
 #include "tests/content/content_sheet.h"
+#include "tests/support/error_of.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon {
@@ -93,14 +95,10 @@ TEST(PaintEffects, InvalidPicturesRaise481AndDrawNothing) {
   const win::HDC dc = canvas->hdc();
   for (const StdPicture& bad : {StdPicture{}, StdPicture::Empty(),
                                 StdPicture::Metafile(win::PICTYPE_METAFILE, 100, 100)}) {
-    const auto expect481 = [](auto operation, const char* source) {
-      try {
-        operation();
-        ADD_FAILURE() << source << " did not throw";
-      } catch (const AutomationError& error) {
-        EXPECT_EQ(error.Number(), 481);
-        EXPECT_EQ(error.Source(), source);
-      }
+    const auto expect481 = [](const std::function<void()>& operation, const char* source) {
+      const AutomationError error = testing::ErrorOf(operation);
+      EXPECT_EQ(error.Number(), 481);
+      EXPECT_EQ(error.Source(), source);
     };
     expect481([&] { effects.PaintNormalStdPic(dc, 0, 0, 4, 4, bad, 0, 0); }, "PaintNormalStdPic");
     expect481([&] { effects.PaintTransparentStdPic(dc, 0, 0, 4, 4, bad, 0, 0, kCyan); },

@@ -6,6 +6,7 @@
 
 #include "control/glyphon_errors.h"
 #include "tests/propertypage/page_fixture.h"
+#include "tests/support/error_of.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon::testing {
@@ -97,8 +98,8 @@ TEST(GeneralPageLayoutTest, ControlsCaptionsAccessKeysAndPlaces) {
         << expected[i].name;
     for (std::size_t j = 0; j < i; ++j) {
       const win::RECT& o = controls[j]->Bounds();
-      const bool apart = r.right <= o.left || o.right <= r.left || r.bottom <= o.top ||
-                         o.bottom <= r.top;
+      const bool apart =
+          r.right <= o.left || o.right <= r.left || r.bottom <= o.top || o.bottom <= r.top;
       EXPECT_TRUE(apart) << expected[i].name << " overlaps " << controls[j]->Name();
     }
   }
@@ -112,10 +113,9 @@ TEST_F(PageTest, ListsAreIndexThenConstantAndOfferNoActivePictureStyle) {
   hosted.button.SetPictureStyle(zonPicStyleActive);
   GlyphonObject button(hosted.button);
   Select(button);
-  EXPECT_EQ(page.cboStyle.Items(),
-            (Strings{"0 - zonStyleWin9x", "1 - zonStyleWin3x", "2 - zonStyleWinXPBlue",
-                     "3 - zonStyleWinXPOliveGreen", "4 - zonStyleWinXPSilver",
-                     "5 - zonStyleMac8x"}));
+  EXPECT_EQ(page.cboStyle.Items(), (Strings{"0 - zonStyleWin9x", "1 - zonStyleWin3x",
+                                            "2 - zonStyleWinXPBlue", "3 - zonStyleWinXPOliveGreen",
+                                            "4 - zonStyleWinXPSilver", "5 - zonStyleMac8x"}));
   EXPECT_EQ(page.cboBorderStyle.Items(), (Strings{"0 - zonBorderNone", "1 - zonBorderSingle"}));
   EXPECT_EQ(page.cboPictureAlignment.Items(),
             (Strings{"0 - zonPicAlignLeft", "1 - zonPicAlignRight", "2 - zonPicAlignCenter",
@@ -336,13 +336,12 @@ TEST_F(PageTest, ApplyWritesInOrderButNeverBorderStyle) {
   // ShowDefault is read-only, so its check box has nothing to write.
   EXPECT_EQ(button.written,
             (Strings{"Caption", "PictureSpacing", "Tag", "UseMaskColor", "Enabled", "Style",
-                     "ShowFocus", "PictureAlignment", "PictureStyle", "Alignment",
-                     "DropShadow"}));
-  EXPECT_EQ(Only(hosted.host.Log(), "changed"),
-            (Strings{"changed Caption", "changed PictureSpacing", "changed UseMaskColor",
-                     "changed Enabled", "changed Style", "changed ShowFocus",
-                     "changed PictureAlignment", "changed PictureStyle", "changed Alignment",
-                     "changed DropShadow"}));
+                     "ShowFocus", "PictureAlignment", "PictureStyle", "Alignment", "DropShadow"}));
+  EXPECT_EQ(
+      Only(hosted.host.Log(), "changed"),
+      (Strings{"changed Caption", "changed PictureSpacing", "changed UseMaskColor",
+               "changed Enabled", "changed Style", "changed ShowFocus", "changed PictureAlignment",
+               "changed PictureStyle", "changed Alignment", "changed DropShadow"}));
   EXPECT_EQ(hosted.host.AccessKeys(), "R");
   EXPECT_EQ(hosted.button.PictureSpacing(), 12);
   EXPECT_EQ(hosted.host.Tag(), "tag");
@@ -361,14 +360,10 @@ TEST_F(PageTest, ApplyErrorsReachTheHostUnchangedAndKeepThePageChanged) {
   Select(std::vector<LateBoundObject*>{&button});
   page.txtCaption.SetText("Go");
   page.chkDropShadow.Toggle();
-  try {
-    page.ApplyChanges();
-    FAIL() << "no error";
-  } catch (const AutomationError& error) {
-    EXPECT_EQ(error.Number(), kControlErrorNumber);
-    EXPECT_EQ(error.Source(), "Style");
-    EXPECT_EQ(error.Description(), "Setter failed.");
-  }
+  const AutomationError refused = ErrorOf([&] { page.ApplyChanges(); });
+  EXPECT_EQ(refused.Number(), kControlErrorNumber);
+  EXPECT_EQ(refused.Source(), "Style");
+  EXPECT_EQ(refused.Description(), "Setter failed.");
   EXPECT_EQ(button.written.back(), "Style");
   EXPECT_EQ(hosted.button.Caption(), "Go");
   EXPECT_FALSE(hosted.button.DropShadow());  // written after the failure: not reached
@@ -378,12 +373,7 @@ TEST_F(PageTest, ApplyErrorsReachTheHostUnchangedAndKeepThePageChanged) {
   button.failOn.clear();
   button.written.clear();
   page.txtPictureSpacing.SetText("99999999999");
-  try {
-    page.ApplyChanges();
-    FAIL() << "no error";
-  } catch (const AutomationError& error) {
-    EXPECT_EQ(error.Number(), kOverflowNumber);
-  }
+  EXPECT_EQ(ErrorOf([&] { page.ApplyChanges(); }).Number(), kOverflowNumber);
   EXPECT_EQ(button.written, Strings{"Caption"});
 }
 
