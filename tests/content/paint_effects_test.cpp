@@ -66,9 +66,7 @@ std::vector<std::string> Rows(const Canvas& canvas) {
 }
 
 std::unique_ptr<Canvas> Face(int width, int height) {
-  testing::TestButton button;
-  button.backColor = kFace;
-  return testing::FaceCanvas(button, width, height);
+  return testing::MakeFilledCanvas(width, height, kFace);
 }
 
 const std::vector<std::string> kRing{"cccc", "crrc", "crwc", "cccc"};
