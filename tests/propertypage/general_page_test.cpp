@@ -108,11 +108,8 @@ TEST(GeneralPageLayoutTest, ControlsCaptionsAccessKeysAndPlaces) {
 }
 
 TEST_F(PageTest, ListsAreIndexThenConstantAndOfferNoActivePictureStyle) {
-  LeakCheck leaks;
-  HostedButton hosted;
   hosted.button.SetPictureStyle(zonPicStyleActive);
-  GlyphonObject button(hosted.button);
-  Select(button);
+  Select(object);
   EXPECT_EQ(page.cboStyle.Items(), (Strings{"0 - zonStyleWin9x", "1 - zonStyleWin3x",
                                             "2 - zonStyleWinXPBlue", "3 - zonStyleWinXPOliveGreen",
                                             "4 - zonStyleWinXPSilver", "5 - zonStyleMac8x"}));
@@ -132,13 +129,12 @@ TEST_F(PageTest, ListsAreIndexThenConstantAndOfferNoActivePictureStyle) {
   EXPECT_EQ(hosted.button.PictureStyle(), zonPicStyleActive);
 
   // Showing the page again rebuilds the lists rather than adding to them.
-  Select(button);
+  Select(object);
   EXPECT_EQ(page.cboAlignment.Items().size(), 3u);
 }
 
 TEST_F(PageTest, OnlyTheFirstOfSeveralSelectedButtonsIsReadAndWritten) {
-  LeakCheck leaks;
-  HostedButton first;
+  HostedButton& first = hosted;
   HostedButton second;
   first.button.SetCaption("First");
   first.button.SetPictureSpacing(-7);
@@ -148,9 +144,8 @@ TEST_F(PageTest, OnlyTheFirstOfSeveralSelectedButtonsIsReadAndWritten) {
   second.button.SetCaption("Second");
   first.host.ClearLog();
   second.host.ClearLog();
-  GlyphonObject a(first.button);
-  GlyphonObject b(second.button);
-  Select({&a, &b});
+  GlyphonObject other(second.button);
+  Select({&object, &other});
 
   EXPECT_EQ(page.txtCaption.Text(), "First");
   EXPECT_EQ(page.txtPictureSpacing.Text(), "-7");
@@ -170,11 +165,8 @@ TEST_F(PageTest, OnlyTheFirstOfSeveralSelectedButtonsIsReadAndWritten) {
 }
 
 TEST_F(PageTest, FillingThePageNeitherPromptsNorMarksItChanged) {
-  LeakCheck leaks;
-  HostedButton hosted;
   hosted.button.SetStyle(zonStyleMac8x);
   hosted.button.SetDropShadow(true);
-  GlyphonObject button(hosted.button);
 
   struct Listener final : GeneralPageListener {
     void ControlChanged(const PageControl& control) override { names.emplace_back(control.Name()); }
@@ -183,7 +175,7 @@ TEST_F(PageTest, FillingThePageNeitherPromptsNorMarksItChanged) {
     std::vector<bool> flags;
   } listener;
   page.SetListener(&listener);
-  Select(button);
+  Select(object);
 
   EXPECT_TRUE(prompts.empty());
   EXPECT_FALSE(page.Changed());
@@ -206,9 +198,6 @@ TEST_F(PageTest, FillingThePageNeitherPromptsNorMarksItChanged) {
 }
 
 TEST_F(PageTest, YesToTheStylePromptSetsThatStylesDefaults) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  GlyphonObject button(hosted.button);
   page.SetPromptOwner(hosted.host.FormWindow(), "Form Designer");
   answer = win::IDYES;
   struct Case {
@@ -220,7 +209,7 @@ TEST_F(PageTest, YesToTheStylePromptSetsThatStylesDefaults) {
   for (const Case c : {Case{zonStyleWin3x, 1, 1}, Case{zonStyleWinXPBlue, 1, 1},
                        Case{zonStyleWinXPOliveGreen, 1, 1}, Case{zonStyleWinXPSilver, 1, 1},
                        Case{zonStyleMac8x, 1, 0}}) {
-    Select(button);
+    Select(object);
     page.cboBorderStyle.SetListIndex(zonBorderNone);
     page.chkShowDefault.SetValue(CheckBox::kUnchecked);
     page.chkShowFocus.SetValue(CheckBox::kUnchecked);
@@ -233,7 +222,7 @@ TEST_F(PageTest, YesToTheStylePromptSetsThatStylesDefaults) {
   }
   // Back to Win9x from Win3x: no border.
   hosted.button.SetStyle(zonStyleWin3x);
-  Select(button);
+  Select(object);
   page.cboStyle.SetListIndex(zonStyleWin9x);
   EXPECT_EQ(page.cboBorderStyle.ListIndex(), zonBorderNone);
 
@@ -246,10 +235,7 @@ TEST_F(PageTest, YesToTheStylePromptSetsThatStylesDefaults) {
 }
 
 TEST_F(PageTest, NoToTheStylePromptChangesNoValueYetEnablesAndMarks) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  GlyphonObject button(hosted.button);
-  Select(button);
+  Select(object);
   page.cboStyle.SetListIndex(zonStyleWin3x);
   ASSERT_EQ(prompts.size(), 1u);
   EXPECT_EQ(prompts[0].caption, "<none>");  // the system's title when the host gave none
@@ -262,20 +248,17 @@ TEST_F(PageTest, NoToTheStylePromptChangesNoValueYetEnablesAndMarks) {
 }
 
 TEST_F(PageTest, EnabledStatesByStyleOnBothPaths) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  GlyphonObject button(hosted.button);
   const char* const onSelection[] = {"EEDD", "EEEE", "DEDD", "DEDD", "DEDD", "EDDD"};
   const char* const onStyleClick[] = {"EEDD", "EEEE", "DEDD", "DEDD", "DEDD", "E?DD"};
   for (std::int32_t style = zonStyleWin9x; style <= zonStyleMac8x; ++style) {
     hosted.button.SetStyle(style);
-    Select(button);
+    Select(object);
     EXPECT_EQ(EnabledStates(page), onSelection[style]) << "selection, style " << style;
 
     // Choosing the style: Mac8x leaves ShowFocus as it was, enabled or not.
     for (const bool showFocusBefore : {true, false}) {
       hosted.button.SetStyle(style == zonStyleWin9x ? zonStyleWin3x : zonStyleWin9x);
-      Select(button);
+      Select(object);
       page.chkShowFocus.SetEnabled(showFocusBefore);
       page.cboStyle.SetListIndex(style);
       std::string expected = onStyleClick[style];
@@ -316,12 +299,9 @@ TEST_F(PageTest, LeavingABoxSelectsItsWholeText) {
 }
 
 TEST_F(PageTest, ApplyWritesInOrderButNeverBorderStyle) {
-  LeakCheck leaks;
-  HostedButton hosted;
   hosted.button.SetStyle(zonStyleWin3x);
   hosted.host.ClearLog();
-  GlyphonObject inner(hosted.button);
-  RecordingObject button(inner);
+  RecordingObject button(object);
   Select(std::vector<LateBoundObject*>{&button});
 
   page.txtCaption.SetText("&Run");
@@ -352,10 +332,7 @@ TEST_F(PageTest, ApplyWritesInOrderButNeverBorderStyle) {
 }
 
 TEST_F(PageTest, ApplyErrorsReachTheHostUnchangedAndKeepThePageChanged) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  GlyphonObject inner(hosted.button);
-  RecordingObject button(inner);
+  RecordingObject button(object);
   button.failOn = "Style";
   Select(std::vector<LateBoundObject*>{&button});
   page.txtCaption.SetText("Go");
