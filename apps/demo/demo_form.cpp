@@ -24,7 +24,8 @@ FormOptions DemoFormOptions() {
   return options;
 }
 
-std::int32_t IntegerEntry(const SavedEntries& entries, std::string_view key, std::int32_t fallback) {
+std::int32_t IntegerEntry(const SavedEntries& entries, std::string_view key,
+                          std::int32_t fallback) {
   const PropertyValue* value = FindSavedEntry(entries, key);
   if (value == nullptr) return fallback;
   if (const auto* wide = std::get_if<std::int32_t>(value)) return *wide;
