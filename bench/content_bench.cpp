@@ -2,8 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include "content/pixel_effects.h"
-#include "control/glyphon.h"
-#include "control/host/memory_host.h"
+#include "bench/bench_button.h"
 #include "samples/sample_pictures.h"
 #include "surface/canvas.h"
 
@@ -15,12 +14,8 @@ using samples::SamplePicture;
 
 // An 81 x 25 XP Blue button with a caption and a 16 x 16 picture keyed on its mask colour.
 void RedrawXpBlueWithPicture(benchmark::State& state, std::int32_t pictureStyle) {
-  MemoryHostOptions options;  // 81 x 25, run mode
-  options.record = false;
-  MemoryHost host(options);
-  Glyphon button(host);
-  host.Attach(&button);
-  button.InitProperties();
+  BenchButton b;
+  Glyphon& button = b.button;
   button.SetStyle(zonStyleWinXPBlue);
   button.SetCaption("&Check");
   button.SetPicture(MakeSamplePicture(SamplePicture::Check16));
@@ -30,13 +25,12 @@ void RedrawXpBlueWithPicture(benchmark::State& state, std::int32_t pictureStyle)
   bool green = false;
   for (int x = 0; x < 81 && !green; ++x) {
     for (int y = 0; y < 25 && !green; ++y) {
-      const win::COLORREF c = win::GetPixel(host.hDC(), x, y);
+      const win::COLORREF c = win::GetPixel(b.host.hDC(), x, y);
       const int g = win::GetGValue(c);
       green = g > win::GetRValue(c) + 40 && g > win::GetBValue(c) + 20;
     }
   }
   if (!green) state.SkipWithError("no picture in the repaint");
-  host.Attach(nullptr);
 }
 
 void BM_RedrawXpBlueMaskedPicture(benchmark::State& state) {

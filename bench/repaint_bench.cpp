@@ -28,7 +28,8 @@ void RepaintSkeleton(benchmark::State& state) {
     canvas.FillGradientTopToBottom(0, 0, kWidth, kHeight - 1, 255, 255, 255, 212, 208, 200);
     for (int i = 0; i < 10; ++i) {
       canvas.DrawLine(i, 0, i, kHeight - 1, win::RGB(0, 0, 128));
-      canvas.DrawPixel(static_cast<float>(kWidth - 1 - i), static_cast<float>(i), win::RGB(255, 0, 0));
+      canvas.DrawPixel(static_cast<float>(kWidth - 1 - i), static_cast<float>(i),
+                       win::RGB(255, 0, 0));
     }
     win::BitBlt(target, 0, 0, kWidth, kHeight, canvas.hdc(), 0, 0, win::SRCCOPY);
     benchmark::DoNotOptimize(canvas.hdc());

@@ -2,23 +2,16 @@
 // canvas, background, content (an 8-character caption), frame, blit, release.
 #include <benchmark/benchmark.h>
 
-#include "control/glyphon.h"
-#include "control/host/memory_host.h"
+#include "bench/bench_button.h"
 
 namespace glyphon {
 namespace {
 
 void RedrawInStyle(benchmark::State& state, std::int32_t style) {
-  MemoryHostOptions options;  // 81 x 25
-  options.record = false;
-  MemoryHost host(options);
-  Glyphon button(host);
-  host.Attach(&button);
-  button.InitProperties();
-  button.SetCaption("Continue");
-  button.SetStyle(style);
-  for (auto _ : state) button.Refresh();
-  host.Attach(nullptr);
+  BenchButton b;
+  b.button.SetCaption("Continue");
+  b.button.SetStyle(style);
+  for (auto _ : state) b.button.Refresh();
 }
 
 void BM_RedrawWin9x81x25(benchmark::State& state) { RedrawInStyle(state, zonStyleWin9x); }

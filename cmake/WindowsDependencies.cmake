@@ -29,7 +29,7 @@ set(GLYPHON_LIBPNG_SOURCE_DIR "${PROJECT_SOURCE_DIR}/build/windows-deps/libpng" 
     "libpng sources for the Windows build")
 if(NOT EXISTS "${GLYPHON_LIBPNG_SOURCE_DIR}/png.h")
   message(FATAL_ERROR "No libpng sources in ${GLYPHON_LIBPNG_SOURCE_DIR}: "
-                      "run scripts/windows-tests.sh --fetch-only, or set GLYPHON_LIBPNG_SOURCE_DIR")
+                      "run scripts/windows-tests.sh (it fetches them), or set GLYPHON_LIBPNG_SOURCE_DIR")
 endif()
 
 # libpng's own configuration header for a default build, copied beside its sources' headers.

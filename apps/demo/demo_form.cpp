@@ -24,12 +24,19 @@ FormOptions DemoFormOptions() {
   return options;
 }
 
-std::int32_t IntegerEntry(const SavedEntries& entries, std::string_view key, std::int32_t fallback) {
+std::int32_t IntegerEntry(const SavedEntries& entries, std::string_view key,
+                          std::int32_t fallback) {
   const PropertyValue* value = FindSavedEntry(entries, key);
   if (value == nullptr) return fallback;
   if (const auto* wide = std::get_if<std::int32_t>(value)) return *wide;
   if (const auto* narrow = std::get_if<std::int16_t>(value)) return *narrow;
   return fallback;
+}
+
+std::string TextEntry(const SavedEntries& entries, std::string_view key) {
+  const PropertyValue* value = FindSavedEntry(entries, key);
+  const auto* text = value != nullptr ? std::get_if<std::string>(value) : nullptr;
+  return text != nullptr ? *text : std::string();
 }
 
 // A dozen looks: each style, then the flags and features a form shows off.
@@ -54,8 +61,7 @@ const DozenEntry kDozen[] = {
     {"cmdMac", "&Mac OS 8", zonStyleMac8x, nullptr},
     {"cmdDisabled", "Disabled", zonStyleWin9x,
      [](Glyphon& b) { WithPicture(b, samples::SamplePicture::Folder16).SetEnabled(false); }},
-    {"cmdTip", "&Hover me", zonStyleWinXPBlue,
-     [](Glyphon& b) { b.SetToolTipText("A Glyphon button with a tooltip"); }},
+    {"cmdTip", "&Hover me", zonStyleWinXPBlue, nullptr},
     {"cmdOpen", "O&pen", zonStyleWinXPBlue,
      [](Glyphon& b) { WithPicture(b, samples::SamplePicture::Folder16); }},
     {"cmdPopup", "Pop&up", zonStyleWin9x,
@@ -73,14 +79,52 @@ const DozenEntry kDozen[] = {
      }},
 };
 
+constexpr const char* kTippedButton = "cmdTip";
+constexpr const char* kTip = "A Glyphon button with a tooltip";
+
+// What the form keeps for each button besides its bag: its place and its tooltip text.
+SavedEntries ExtenderEntries(const SiteRect& rect, const std::string& toolTipText) {
+  SavedEntries entries{{"Left", rect.left},
+                       {"Top", rect.top},
+                       {"Width", static_cast<std::int32_t>(rect.width)},
+                       {"Height", static_cast<std::int32_t>(rect.height)}};
+  if (!toolTipText.empty()) entries.push_back({"ToolTipText", toolTipText});
+  return entries;
+}
+
+// The dozen as a form designer saves it: each button set up at design time and written to its
+// property bag, so that the demo loads them as a form is loaded when it runs.
+SavedForm DesignedDozen() {
+  FormOptions designTime = DemoFormOptions();
+  designTime.userMode = false;
+  FormHost designer(designTime);
+  SavedForm saved;
+  saved.form.push_back({"DefaultButton", std::string(kDozen[0].name)});
+  int index = 0;
+  for (const DozenEntry& entry : kDozen) {
+    const SiteRect rect{kLeft + (index % 4) * kStepX, kTop + (index / 4) * kStepY, kButtonWidth,
+                        kButtonHeight};
+    ++index;
+    FormSite& site = designer.AddSite(entry.name, rect);
+    Glyphon button(site);
+    site.Attach(&button);
+    button.InitProperties();
+    button.SetStyle(entry.style);
+    button.SetCaption(entry.caption);
+    if (entry.extra != nullptr) entry.extra(button);
+    MemoryPropertyBag bag;
+    button.WriteProperties(bag);
+    site.Attach(nullptr);
+    const std::string tip = std::string_view(entry.name) == kTippedButton ? kTip : "";
+    saved.controls.push_back({entry.name, ExtenderEntries(rect, tip), EntriesOfBag(bag)});
+  }
+  return saved;
+}
+
 }  // namespace
 
 DemoForm::DemoForm(const SavedForm* saved) : form_(DemoFormOptions()) {
-  if (saved != nullptr) {
-    Load(*saved);
-  } else {
-    BuildDozen();
-  }
+  Load(saved != nullptr ? *saved : DesignedDozen());
 }
 
 // The buttons end before their windows do.
@@ -95,22 +139,6 @@ void DemoForm::AddButton(const std::string& name, const SiteRect& rect) {
   site.Attach(buttons_.back().button.get());
 }
 
-void DemoForm::BuildDozen() {
-  int index = 0;
-  for (const DozenEntry& entry : kDozen) {
-    const SiteRect rect{kLeft + (index % 4) * kStepX, kTop + (index / 4) * kStepY, kButtonWidth,
-                        kButtonHeight};
-    AddButton(entry.name, rect);
-    Glyphon& button = *buttons_.back().button;
-    button.InitProperties();
-    button.SetStyle(entry.style);
-    button.SetCaption(entry.caption);
-    if (entry.extra != nullptr) entry.extra(button);
-    ++index;
-  }
-  form_.SetDefaultSite(buttons_.front().site);
-}
-
 void DemoForm::Load(const SavedForm& saved) {
   for (const SavedControl& control : saved.controls) {
     const SiteRect rect{IntegerEntry(control.extender, "Left", kLeft),
@@ -119,13 +147,12 @@ void DemoForm::Load(const SavedForm& saved) {
                         static_cast<double>(
                             IntegerEntry(control.extender, "Height", kButtonHeight))};
     AddButton(control.name, rect);
+    buttons_.back().site->SetToolTipText(TextEntry(control.extender, "ToolTipText"));
     MemoryPropertyBag bag = BagOfEntries(control.properties);
     buttons_.back().button->ReadProperties(bag);
   }
-  if (const PropertyValue* name = FindSavedEntry(saved.form, "DefaultButton")) {
-    if (const auto* text = std::get_if<std::string>(name)) {
-      if (DemoButton* button = Find(*text)) form_.SetDefaultSite(button->site);
-    }
+  if (DemoButton* button = Find(TextEntry(saved.form, "DefaultButton"))) {
+    form_.SetDefaultSite(button->site);
   }
 }
 
@@ -135,13 +162,8 @@ SavedForm DemoForm::Save() const {
     saved.form.push_back({"DefaultButton", site->Name()});
   }
   for (const DemoButton& entry : buttons_) {
-    const SiteRect& rect = entry.site->Rect();
     SavedControl control{entry.site->Name(),
-                         {{"Left", rect.left},
-                          {"Top", rect.top},
-                          {"Width", static_cast<std::int32_t>(rect.width)},
-                          {"Height", static_cast<std::int32_t>(rect.height)}},
-                         {}};
+                         ExtenderEntries(entry.site->Rect(), entry.site->ToolTipText()), {}};
     MemoryPropertyBag bag;
     entry.button->WriteProperties(bag);
     control.properties = EntriesOfBag(bag);

@@ -26,7 +26,8 @@ class DemoForm {
   static constexpr int kWidth = 560;
   static constexpr int kHeight = 300;
 
-  // The buttons of the saved form, or the demo's own dozen when there is none.
+  // The buttons of the saved form, or the demo's own dozen when there is none; either way they
+  // are loaded from their property bags, as a form's controls are when it runs.
   explicit DemoForm(const SavedForm* saved = nullptr);
   ~DemoForm();
   DemoForm(const DemoForm&) = delete;
@@ -44,7 +45,6 @@ class DemoForm {
 
  private:
   void AddButton(const std::string& name, const SiteRect& rect);
-  void BuildDozen();
   void Load(const SavedForm& saved);
 
   FormHost form_;

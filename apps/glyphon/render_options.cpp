@@ -22,7 +22,9 @@ int ParseSide(std::string_view text, std::string_view whole) {
 
 void ParseSize(std::string_view text, RenderOptions& options) {
   const std::size_t x = text.find_first_of("xX");
-  if (x == std::string_view::npos) throw UsageError("--size wants WxH, not '" + std::string(text) + "'");
+  if (x == std::string_view::npos) {
+    throw UsageError("--size wants WxH, not '" + std::string(text) + "'");
+  }
   options.width = ParseSide(text.substr(0, x), text);
   options.height = ParseSide(text.substr(x + 1), text);
 }

@@ -40,6 +40,8 @@ class FormSite final : public WindowSite {
 
   const std::string& Name() const { return name_; }
   bool TabStop() const { return tabStop_; }
+  // The tooltip text the form keeps for the control (its extender's ToolTipText).
+  const std::string& ToolTipText() const { return toolTipText_; }
   void SetToolTipText(std::string text) { toolTipText_ = std::move(text); }
 
   // ---- ControlSite ----

@@ -9,12 +9,6 @@ PromptAnswer* activeAnswer = nullptr;
 // The text of the static control that shows a message box's question.
 constexpr int kMessageBoxTextId = 0xFFFF;
 
-std::wstring TextOf(HWND window) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');
-  GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1);
-  return text;
-}
-
 std::string Narrow(const std::wstring& text) {
   std::string narrow;
   for (const wchar_t c : text) narrow += static_cast<char>(c);
@@ -49,8 +43,7 @@ STDMETHODIMP PageSite::GetPageContainer(IUnknown** container) {
 
 STDMETHODIMP PageSite::TranslateAccelerator(MSG*) { return S_FALSE; }
 
-PromptAnswer::PromptAnswer(int answer)
-    : answer_(answer), timer_(SetTimer(nullptr, 0, 20, &Tick)) {
+PromptAnswer::PromptAnswer(int answer) : answer_(answer), timer_(SetTimer(nullptr, 0, 20, &Tick)) {
   activeAnswer = this;
 }
 
@@ -104,8 +97,8 @@ STDMETHODIMP VetoingObject::GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count
 }
 
 STDMETHODIMP VetoingObject::Invoke(DISPID id, REFIID interfaceId, LCID locale, WORD flags,
-                                   DISPPARAMS* parameters, VARIANT* result,
-                                   EXCEPINFO* exception, UINT* argumentError) {
+                                   DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
+                                   UINT* argumentError) {
   if (id == vetoed_ && (flags & DISPATCH_PROPERTYPUT) != 0) {
     *exception = exception_;
     exception->bstrSource = SysAllocString(exception_.bstrSource);
@@ -116,13 +109,19 @@ STDMETHODIMP VetoingObject::Invoke(DISPID id, REFIID interfaceId, LCID locale, W
                          argumentError);
 }
 
+std::wstring TextOf(HWND window) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');
+  GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1);
+  return text;
+}
+
 std::string Describe(HWND window) {
   wchar_t className[32] = {};
   GetClassNameW(window, className, 32);
   std::string description = Narrow(className) + " " + Narrow(TextOf(window));
   if (_wcsicmp(className, L"Button") == 0) {
-    description += SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED ? " checked"
-                                                                           : " unchecked";
+    description +=
+        SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED ? " checked" : " unchecked";
   }
   if (!IsWindowEnabled(window)) description += " disabled";
   return description;

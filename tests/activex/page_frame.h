@@ -71,6 +71,9 @@ class VetoingObject final : public IDispatch {
   EXCEPINFO exception_;
 };
 
+// The window's text.
+std::wstring TextOf(HWND window);
+
 // The window's class and text, and its state where it has one, in the form
 // "Button Dr&opShadow checked" or "Static &Border Style disabled".
 std::string Describe(HWND window);

@@ -95,26 +95,14 @@ TEST(Persistence, StreamRoundTripHoldsTheSameKeys) {
   stream->Seek(start, STREAM_SEEK_SET, nullptr);
 
   // A new instance loads from the stream instead of a bag.
-  ComPtr<IOleObject> object;
-  CLSID classId{};
-  ASSERT_HRESULT_SUCCEEDED(CLSIDFromProgID(L"zonGlyphon.Glyphon", &classId));
-  ASSERT_HRESULT_SUCCEEDED(
-      CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&object)));
+  const ComPtr<IOleObject> object = NewGlyphon();
   ComPtr<IPersistStreamInit> persist;
   ASSERT_HRESULT_SUCCEEDED(object.As(&persist));
   ASSERT_HRESULT_SUCCEEDED(persist->Load(stream.Get()));
   EXPECT_EQ(persist->InitNew(), E_UNEXPECTED) << "an instance loads once";
   ComPtr<IDispatch> dispatch;
   object.As(&dispatch);
-  LPOLESTR name = const_cast<LPOLESTR>(L"ShadowColor");
-  DISPID id = 0;
-  ASSERT_HRESULT_SUCCEEDED(dispatch->GetIDsOfNames(IID_NULL, &name, 1, 0, &id));
-  VARIANT value;
-  VariantInit(&value);
-  DISPPARAMS none{};
-  ASSERT_HRESULT_SUCCEEDED(dispatch->Invoke(id, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, &value,
-                                            nullptr, nullptr));
-  EXPECT_EQ(value.lVal, 0x00112233);
+  EXPECT_EQ(GetByName(dispatch.Get(), L"ShadowColor").lVal, 0x00112233);
 }
 
 TEST(Persistence, ADamagedStreamLoadsDefaults) {
@@ -126,10 +114,7 @@ TEST(Persistence, ADamagedStreamLoadsDefaults) {
   LARGE_INTEGER start{};
   stream->Seek(start, STREAM_SEEK_SET, nullptr);
   ComPtr<IPersistStreamInit> persist;
-  CLSID classId{};
-  CLSIDFromProgID(L"zonGlyphon.Glyphon", &classId);
-  ASSERT_HRESULT_SUCCEEDED(
-      CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&persist)));
+  ASSERT_HRESULT_SUCCEEDED(NewGlyphon().As(&persist));
   EXPECT_HRESULT_SUCCEEDED(persist->Load(stream.Get()));
 }
 

@@ -15,12 +15,6 @@ using Strings = std::vector<std::string>;
 
 constexpr RECT kPagePosition{0, 0, GeneralPage::kWidth, GeneralPage::kHeight};
 
-std::wstring TextOf(HWND window) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');
-  GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1);
-  return text;
-}
-
 class PropertyPageTest : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -102,15 +96,22 @@ TEST_F(PropertyPageTest, SystemControlsInTabOrderShowTheControlsValues) {
   Strings shown;
   for (HWND child : Children(pageWindow_)) shown.push_back(Describe(child));
   // XP styles have no border style and show no default ring.
-  EXPECT_EQ(shown, (Strings{"Static &Caption:", "Edit &Save",
-                            "Static &Style:", "ComboBox 2 - zonStyleWinXPBlue",
+  EXPECT_EQ(shown, (Strings{"Static &Caption:",
+                            "Edit &Save",
+                            "Static &Style:",
+                            "ComboBox 2 - zonStyleWinXPBlue",
                             "Static &Border Style disabled",
                             "ComboBox 1 - zonBorderSingle disabled",
-                            "Static A&lignment:", "ComboBox 0 - zonAlignLeft",
-                            "Static Pictu&re Style:", "ComboBox 2 - zonPicStylePopup",
-                            "Static &Picture Alignment:", "ComboBox 3 - zonPicAlignTop",
-                            "Static P&icture Spacing:", "Edit 7",
-                            "Static &Tag:", "Edit t",
+                            "Static A&lignment:",
+                            "ComboBox 0 - zonAlignLeft",
+                            "Static Pictu&re Style:",
+                            "ComboBox 2 - zonPicStylePopup",
+                            "Static &Picture Alignment:",
+                            "ComboBox 3 - zonPicAlignTop",
+                            "Static P&icture Spacing:",
+                            "Edit 7",
+                            "Static &Tag:",
+                            "Edit t",
                             "Static Display Options:",
                             "Button &Enabled checked",
                             "Button Show&Default checked disabled",

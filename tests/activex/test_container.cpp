@@ -22,6 +22,13 @@ void Check(HRESULT result, const char* what) {
   }
 }
 
+DISPID IdOf(IDispatch* object, const wchar_t* name) {
+  DISPID id = DISPID_UNKNOWN;
+  auto* names = const_cast<LPOLESTR>(name);
+  Check(object->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id), "GetIDsOfNames");
+  return id;
+}
+
 std::string NameOf(DISPID id, MemberKind kind) {
   for (const MemberInfo& member : GlyphonMembers()) {
     if (member.kind == kind && member.dispId == id) return std::string(member.name);
@@ -30,30 +37,6 @@ std::string NameOf(DISPID id, MemberKind kind) {
   std::string unknown("?");
   unknown += std::to_string(id);
   return unknown;
-}
-
-VARIANT Boolean(bool value) {
-  VARIANT result;
-  VariantInit(&result);
-  result.vt = VT_BOOL;
-  result.boolVal = value ? VARIANT_TRUE : VARIANT_FALSE;
-  return result;
-}
-
-VARIANT Long(long value) {
-  VARIANT result;
-  VariantInit(&result);
-  result.vt = VT_I4;
-  result.lVal = value;
-  return result;
-}
-
-VARIANT Text(const std::wstring& value) {
-  VARIANT result;
-  VariantInit(&result);
-  result.vt = VT_BSTR;
-  result.bstrVal = SysAllocString(value.c_str());
-  return result;
 }
 
 // IUnknown for the container's objects; Derived::Find answers which interfaces it has.
@@ -79,9 +62,22 @@ class Unknown : public Interfaces... {
   ULONG references_ = 1;
 };
 
-// IDispatch members that are the same for every late-bound object here.
+// IDispatch without type information, for every late-bound object here; names are the
+// derived class's business, or not known at all.
+template <class Derived, class... Others>
+class Dispatch : public Unknown<Derived, IDispatch, Others...> {
+ public:
+  STDMETHODIMP GetTypeInfoCount(UINT* count) override {
+    *count = 0;
+    return S_OK;
+  }
+  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+};
+
+// A dispatch object with IDispatch alone.
 template <class Derived>
-class SimpleDispatch : public Unknown<Derived, IDispatch> {
+class SimpleDispatch : public Dispatch<Derived> {
  public:
   void* Find(REFIID id) {
     if (IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDispatch)) {
@@ -89,11 +85,6 @@ class SimpleDispatch : public Unknown<Derived, IDispatch> {
     }
     return nullptr;
   }
-  STDMETHODIMP GetTypeInfoCount(UINT* count) override {
-    *count = 0;
-    return S_OK;
-  }
-  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
 };
 
 // The form as the extender's Container.
@@ -106,7 +97,7 @@ class FormObject final : public SimpleDispatch<FormObject> {
   STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                       UINT*) override {
     if (id != 1) return DISP_E_MEMBERNOTFOUND;
-    *result = Long(static_cast<long>(kFormBackColor));
+    *result = LongValue(static_cast<long>(kFormBackColor));
     return S_OK;
   }
 };
@@ -127,8 +118,8 @@ class ExtenderObject final : public SimpleDispatch<ExtenderObject> {
     return ids[0] != DISPID_UNKNOWN ? S_OK : DISP_E_UNKNOWNNAME;
   }
 
-  STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters,
-                      VARIANT* result, EXCEPINFO*, UINT*) override {
+  STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+                      EXCEPINFO*, UINT*) override {
     if ((flags & DISPATCH_PROPERTYPUT) != 0) {
       const bool value = parameters->rgvarg[0].boolVal != VARIANT_FALSE;
       if (id == 2) state_.extenderTabStop = value;
@@ -137,16 +128,16 @@ class ExtenderObject final : public SimpleDispatch<ExtenderObject> {
     }
     switch (id) {
       case 1:
-        *result = Text(state_.extenderName);
+        *result = TextValue(state_.extenderName);
         return S_OK;
       case 2:
-        *result = Boolean(state_.extenderTabStop);
+        *result = BoolValue(state_.extenderTabStop);
         return S_OK;
       case 3:
-        *result = Boolean(state_.extenderDefault);
+        *result = BoolValue(state_.extenderDefault);
         return S_OK;
       case 4:
-        *result = Text(state_.extenderToolTipText.value_or(L""));
+        *result = TextValue(state_.extenderToolTipText.value_or(L""));
         return S_OK;
       case 5: {
         VariantInit(result);
@@ -164,7 +155,7 @@ class ExtenderObject final : public SimpleDispatch<ExtenderObject> {
 };
 
 // Records the control's events and property-change notifications.
-class EventSink final : public Unknown<EventSink, IDispatch, IPropertyNotifySink> {
+class EventSink final : public Dispatch<EventSink, IPropertyNotifySink> {
  public:
   EventSink(ContainerState& state, REFIID eventsId) : state_(state), eventsId_(eventsId) {}
 
@@ -177,17 +168,8 @@ class EventSink final : public Unknown<EventSink, IDispatch, IPropertyNotifySink
     return nullptr;
   }
 
-  STDMETHODIMP GetTypeInfoCount(UINT* count) override {
-    *count = 0;
-    return S_OK;
-  }
-  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
-    return E_NOTIMPL;
-  }
-
-  STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*,
-                      EXCEPINFO*, UINT*) override {
+  STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
+                      UINT*) override {
     std::string entry = NameOf(id, MemberKind::Event);
     if (parameters->cArgs > 0) {
       entry += "(";
@@ -228,8 +210,50 @@ class EventSink final : public Unknown<EventSink, IDispatch, IPropertyNotifySink
 
 }  // namespace
 
-class Site final : public Unknown<Site, IOleClientSite, IOleInPlaceSite, IOleControlSite,
-                                  IDispatch> {
+VARIANT BoolValue(bool value) {
+  VARIANT result;
+  VariantInit(&result);
+  result.vt = VT_BOOL;
+  result.boolVal = value ? VARIANT_TRUE : VARIANT_FALSE;
+  return result;
+}
+
+VARIANT LongValue(long value) {
+  VARIANT result;
+  VariantInit(&result);
+  result.vt = VT_I4;
+  result.lVal = value;
+  return result;
+}
+
+VARIANT TextValue(const std::wstring& value) {
+  VARIANT result;
+  VariantInit(&result);
+  result.vt = VT_BSTR;
+  result.bstrVal = SysAllocString(value.c_str());
+  return result;
+}
+
+ComPtr<IOleObject> NewGlyphon() {
+  CLSID classId{};
+  Check(CLSIDFromProgID(L"zonGlyphon.Glyphon", &classId), "CLSIDFromProgID");
+  ComPtr<IOleObject> object;
+  Check(CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&object)),
+        "CoCreateInstance");
+  return object;
+}
+
+VARIANT GetByName(IDispatch* object, const wchar_t* name) {
+  VARIANT result;
+  VariantInit(&result);
+  DISPPARAMS none{};
+  Check(object->Invoke(IdOf(object, name), IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET,
+                       &none, &result, nullptr, nullptr),
+        "property get");
+  return result;
+}
+
+class Site final : public Dispatch<Site, IOleClientSite, IOleInPlaceSite, IOleControlSite> {
  public:
   Site(HWND form, const ContainerState& initial) : form_(form), state_(initial) {
     extender_.Attach(new ExtenderObject(state_));
@@ -270,8 +294,7 @@ class Site final : public Unknown<Site, IOleClientSite, IOleInPlaceSite, IOleCon
   STDMETHODIMP OnInPlaceActivate() override { return S_OK; }
   STDMETHODIMP OnUIActivate() override { return S_OK; }
   STDMETHODIMP GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document,
-                                LPRECT position, LPRECT clip,
-                                LPOLEINPLACEFRAMEINFO info) override {
+                                LPRECT position, LPRECT clip, LPOLEINPLACEFRAMEINFO info) override {
     *frame = nullptr;
     *document = nullptr;
     *position = kControlPosition;
@@ -306,26 +329,19 @@ class Site final : public Unknown<Site, IOleClientSite, IOleInPlaceSite, IOleCon
   STDMETHODIMP ShowPropertyFrame() override { return E_NOTIMPL; }
 
   // ---- IDispatch: the ambient properties ----
-  STDMETHODIMP GetTypeInfoCount(UINT* count) override {
-    *count = 0;
-    return S_OK;
-  }
-  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
-    return E_NOTIMPL;
-  }
   STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                       UINT*) override {
     switch (id) {
       case DISPID_AMBIENT_USERMODE:
-        *result = Boolean(state_.userMode);
+        *result = BoolValue(state_.userMode);
         return S_OK;
       case DISPID_AMBIENT_DISPLAYASDEFAULT:
-        *result = Boolean(state_.displayAsDefault);
+        *result = BoolValue(state_.displayAsDefault);
         return S_OK;
       case DISPID_AMBIENT_FONT: {
-        FONTDESC description{sizeof(FONTDESC), const_cast<LPOLESTR>(state_.ambientFontName.c_str()),
-                             CY{}, FW_NORMAL, ANSI_CHARSET, FALSE, FALSE, FALSE};
+        auto* name = const_cast<LPOLESTR>(state_.ambientFontName.c_str());
+        FONTDESC description{sizeof(FONTDESC), name,  CY{},  FW_NORMAL,
+                             ANSI_CHARSET,     FALSE, FALSE, FALSE};
         description.cySize.int64 = 90000;
         VariantInit(result);
         result->vt = VT_DISPATCH;
@@ -384,22 +400,18 @@ void MemoryBag::Store(const std::wstring& name, const VARIANT& value) {
 
 HostedGlyphon::HostedGlyphon(HWND form, const ContainerState& initial, MemoryBag* bag) {
   site_.Attach(new Site(form, initial));
-  CLSID classId{};
-  Check(CLSIDFromProgID(L"zonGlyphon.Glyphon", &classId), "CLSIDFromProgID");
-  Check(CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&object_)),
-        "CoCreateInstance");
+  object_ = NewGlyphon();
   Check(object_.As(&dispatch_), "IDispatch");
 
   ComPtr<IConnectionPointContainer> points;
   Check(object_.As(&points), "IConnectionPointContainer");
   ComPtr<IProvideClassInfo2> classInfo;
   Check(object_.As(&classInfo), "IProvideClassInfo2");
-  IID eventsId{};
-  Check(classInfo->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &eventsId), "GetGUID");
+  Check(classInfo->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &eventsId_), "GetGUID");
   ComPtr<EventSink> sink;
-  sink.Attach(new EventSink(site_->State(), eventsId));
+  sink.Attach(new EventSink(site_->State(), eventsId_));
   ComPtr<IConnectionPoint> events;
-  Check(points->FindConnectionPoint(eventsId, &events), "events connection point");
+  Check(points->FindConnectionPoint(eventsId_, &events), "events connection point");
   Check(events->Advise(static_cast<IDispatch*>(sink.Get()), &eventsCookie_), "Advise events");
   ComPtr<IConnectionPoint> notify;
   Check(points->FindConnectionPoint(IID_IPropertyNotifySink, &notify), "notify point");
@@ -409,8 +421,7 @@ HostedGlyphon::HostedGlyphon(HWND form, const ContainerState& initial, MemoryBag
   ComPtr<IPersistPropertyBag> persist;
   Check(object_.As(&persist), "IPersistPropertyBag");
   Check(bag != nullptr ? persist->Load(bag, nullptr) : persist->InitNew(), "load");
-  Check(object_->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, site_.Get(), 0, form,
-                        &kControlPosition),
+  Check(object_->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, site_.Get(), 0, form, &kControlPosition),
         "DoVerb");
   ComPtr<IOleWindow> oleWindow;
   Check(object_.As(&oleWindow), "IOleWindow");
@@ -423,11 +434,7 @@ HostedGlyphon::~HostedGlyphon() {
   ComPtr<IConnectionPointContainer> points;
   object_.As(&points);
   ComPtr<IConnectionPoint> point;
-  IID eventsId{};
-  ComPtr<IProvideClassInfo2> classInfo;
-  object_.As(&classInfo);
-  classInfo->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &eventsId);
-  if (SUCCEEDED(points->FindConnectionPoint(eventsId, &point))) point->Unadvise(eventsCookie_);
+  if (SUCCEEDED(points->FindConnectionPoint(eventsId_, &point))) point->Unadvise(eventsCookie_);
   if (SUCCEEDED(points->FindConnectionPoint(IID_IPropertyNotifySink, &point))) {
     point->Unadvise(notifyCookie_);
   }
@@ -438,29 +445,18 @@ ContainerState& HostedGlyphon::State() { return site_->State(); }
 
 std::vector<std::string> HostedGlyphon::TakeLog() { return std::exchange(State().log, {}); }
 
-DISPID HostedGlyphon::IdOf(const wchar_t* name) {
-  DISPID id = DISPID_UNKNOWN;
-  auto* names = const_cast<LPOLESTR>(name);
-  Check(dispatch_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id), "GetIDsOfNames");
-  return id;
-}
+VARIANT HostedGlyphon::Get(const wchar_t* name) { return GetByName(dispatch_.Get(), name); }
 
-VARIANT HostedGlyphon::Get(const wchar_t* name) {
-  VARIANT result;
-  VariantInit(&result);
-  DISPPARAMS none{};
-  Check(dispatch_->Invoke(IdOf(name), IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
-                          &result, nullptr, nullptr),
-        "property get");
-  return result;
+HRESULT HostedGlyphon::Assign(const wchar_t* name, WORD flags, VARIANT& value,
+                              EXCEPINFO* exception) {
+  DISPID named = DISPID_PROPERTYPUT;
+  DISPPARAMS parameters{&value, &named, 1, 1};
+  return dispatch_->Invoke(IdOf(dispatch_.Get(), name), IID_NULL, LOCALE_USER_DEFAULT, flags,
+                           &parameters, nullptr, exception, nullptr);
 }
 
 HRESULT HostedGlyphon::Put(const wchar_t* name, VARIANT value, EXCEPINFO* exception) {
-  DISPID named = DISPID_PROPERTYPUT;
-  DISPPARAMS parameters{&value, &named, 1, 1};
-  const HRESULT result = dispatch_->Invoke(IdOf(name), IID_NULL, LOCALE_USER_DEFAULT,
-                                           DISPATCH_PROPERTYPUT, &parameters, nullptr, exception,
-                                           nullptr);
+  const HRESULT result = Assign(name, DISPATCH_PROPERTYPUT, value, exception);
   VariantClear(&value);
   return result;
 }
@@ -470,16 +466,13 @@ HRESULT HostedGlyphon::PutRef(const wchar_t* name, IDispatch* value, EXCEPINFO* 
   VariantInit(&argument);
   argument.vt = VT_DISPATCH;
   argument.pdispVal = value;
-  DISPID named = DISPID_PROPERTYPUT;
-  DISPPARAMS parameters{&argument, &named, 1, 1};
-  return dispatch_->Invoke(IdOf(name), IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUTREF,
-                           &parameters, nullptr, exception, nullptr);
+  return Assign(name, DISPATCH_PROPERTYPUTREF, argument, exception);
 }
 
 HRESULT HostedGlyphon::Call(const wchar_t* name) {
   DISPPARAMS none{};
-  return dispatch_->Invoke(IdOf(name), IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none,
-                           nullptr, nullptr, nullptr);
+  return dispatch_->Invoke(IdOf(dispatch_.Get(), name), IID_NULL, LOCALE_USER_DEFAULT,
+                           DISPATCH_METHOD, &none, nullptr, nullptr, nullptr);
 }
 
 long HostedGlyphon::GetLong(const wchar_t* name) {
@@ -506,15 +499,15 @@ std::wstring HostedGlyphon::GetText(const wchar_t* name) {
 }
 
 void HostedGlyphon::PutLong(const wchar_t* name, long value) {
-  Check(Put(name, Long(value)), "put");
+  Check(Put(name, LongValue(value)), "put");
 }
 
 void HostedGlyphon::PutBool(const wchar_t* name, bool value) {
-  Check(Put(name, Boolean(value)), "put");
+  Check(Put(name, BoolValue(value)), "put");
 }
 
 void HostedGlyphon::PutText(const wchar_t* name, const wchar_t* value) {
-  Check(Put(name, Text(value)), "put");
+  Check(Put(name, TextValue(value)), "put");
 }
 
 void HostedGlyphon::SetDisplayAsDefault(bool displayAsDefault) {
@@ -550,9 +543,9 @@ Form::Form() {
   windowClass.hInstance = GetModuleHandleW(nullptr);
   windowClass.lpszClassName = L"GlyphonTestForm";
   RegisterClassW(&windowClass);
-  window_ = CreateWindowExW(0, L"GlyphonTestForm", L"Form1",
-                            WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0, 400, 300, nullptr,
-                            nullptr, GetModuleHandleW(nullptr), nullptr);
+  window_ =
+      CreateWindowExW(0, L"GlyphonTestForm", L"Form1", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 0,
+                      0, 400, 300, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
 }
 
 Form::~Form() { DestroyWindow(window_); }

@@ -34,6 +34,16 @@ struct ContainerState {
   std::optional<short> replaceKeyAscii;
 };
 
+// Values for IDispatch calls; the caller owns the text's string.
+VARIANT BoolValue(bool value);
+VARIANT LongValue(long value);
+VARIANT TextValue(const std::wstring& value);
+
+// A new instance of the control, created by its programmatic identifier; throws when it cannot be.
+ComPtr<IOleObject> NewGlyphon();
+// A property read by name through the object's IDispatch; throws on failure.
+VARIANT GetByName(IDispatch* object, const wchar_t* name);
+
 // An IPropertyBag kept in memory.
 class MemoryBag final : public IPropertyBag {
  public:
@@ -93,12 +103,13 @@ class HostedGlyphon {
   bool FormMnemonic(char key);
 
  private:
-  DISPID IdOf(const wchar_t* name);
+  HRESULT Assign(const wchar_t* name, WORD flags, VARIANT& value, EXCEPINFO* exception);
 
   ComPtr<Site> site_;
   ComPtr<IOleObject> object_;
   ComPtr<IDispatch> dispatch_;
   HWND window_ = nullptr;
+  IID eventsId_{};
   DWORD eventsCookie_ = 0;
   DWORD notifyCookie_ = 0;
 };

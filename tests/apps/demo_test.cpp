@@ -10,6 +10,8 @@
 
 #include "apps/demo/demo_script.h"
 #include "apps/demo/demo_session.h"
+#include "control/tooltip.h"
+#include "platform/soft/soft_engine.h"
 #include "content/glyphon_constants.h"
 #include "platform/automation_error.h"
 #include "platform/codec/png_codec.h"
@@ -52,7 +54,7 @@ TEST(DemoFormTest, ADozenButtonsShowEveryStyleAndFeature) {
     styles.insert(entry.button->Style());
     names.insert(entry.site->Name());
     disabled += entry.button->Enabled() ? 0 : 1;
-    withTip += entry.button->ToolTipText().empty() ? 0 : 1;
+    withTip += entry.site->ToolTipText().empty() ? 0 : 1;
   }
   EXPECT_EQ(styles.size(), 6u);
   EXPECT_EQ(names.size(), 12u) << "names are unique";
@@ -106,6 +108,18 @@ TEST(DemoScriptTest, ReplaysInputAsEvents) {
   EXPECT_EQ(session.Selected()->site->Name(), "cmdOK") << "pressing a button selects it";
 }
 
+TEST(DemoScriptTest, HoveringTheTooltipButtonShowsItsTip) {
+  LeakCheck leaks;
+  DemoSession session;
+  const SiteRect& tip = session.Form().Find("cmdTip")->site->Rect();
+  RunScript(session, "move " + std::to_string(tip.left + 5) + " " + std::to_string(tip.top + 5) +
+                         "\nwait 1500\n");
+  const auto state = win::soft::ThreadSoftEngine().User().TooltipState(TooltipWindow());
+  ASSERT_TRUE(state.has_value());
+  EXPECT_TRUE(state->visible);
+  EXPECT_EQ(state->text, "A Glyphon button with a tooltip");
+}
+
 TEST(DemoScriptTest, BadLinesNameTheirLine) {
   LeakCheck leaks;
   DemoSession session;
@@ -142,7 +156,8 @@ bool HaveCommand(const char* name) {
 }
 
 // The demo in a window under Xvfb, clicked with synthetic input: the click is logged, and the
-// button in the screenshot is the button `glyphon render` paints in the same state.
+// button in the screenshot is the button `glyphon render` paints from the same saved bag in the
+// same state.
 TEST(DemoWindowTest, AClickedButtonLooksAsTheRendererPaintsIt) {
   if (!HaveCommand("xvfb-run") || !HaveCommand("xdotool")) {
     GTEST_SKIP() << "needs xvfb-run and xdotool (scripts/install-deps.sh installs them)";
@@ -160,8 +175,13 @@ TEST(DemoWindowTest, AClickedButtonLooksAsTheRendererPaintsIt) {
   EXPECT_NE(events.str().find("cmdOK: MouseDown(1,0,"), std::string::npos) << events.str();
   EXPECT_NE(events.str().find("cmdOK: Click"), std::string::npos) << events.str();
 
-  const std::string render = program +
-                             " render --size 120x40 --set \"Caption=&OK\" --state hot --focus " +
+  // The demo's buttons are loaded from their bags, so the renderer loads the same bag.
+  {
+    DemoSession session;
+    session.SaveForm(folder / "form.json");
+  }
+  const std::string render = program + " render --props " + (folder / "form.json").string() +
+                             " --size 120x40 --state hot --focus " +
                              (folder / "rendered.png").string() + " >/dev/null";
   ASSERT_EQ(std::system(render.c_str()), 0);
   const auto shot = ReadPngFile(folder / "glyphon-demo-1.png");

@@ -5,13 +5,9 @@
 
 namespace glyphon::testing {
 
-std::unique_ptr<Canvas> FaceCanvas(const TestButton& button, int width, int height) {
-  return MakeFilledCanvas(width, height, button.backColor);
-}
-
 std::unique_ptr<Canvas> RenderContent(const TestButton& button, int width, int height,
                                       std::int32_t drawState) {
-  auto canvas = FaceCanvas(button, width, height);
+  auto canvas = MakeFilledCanvas(width, height, button.backColor);
   PaintContent(*canvas, button, drawState);
   return canvas;
 }

@@ -11,10 +11,8 @@
 
 namespace glyphon::testing {
 
-// A canvas of the button's size cleared to its BackColor, as the face before the content.
-std::unique_ptr<Canvas> FaceCanvas(const TestButton& button, int width, int height);
-
-// PaintContent on a fresh face canvas.
+// PaintContent on a canvas of the button's size cleared to its BackColor, as the face before the
+// content.
 std::unique_ptr<Canvas> RenderContent(const TestButton& button, int width, int height,
                                       std::int32_t drawState);
 

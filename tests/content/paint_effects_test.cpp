@@ -2,6 +2,7 @@
 // silhouettes, blur, icons at the asked size and the invalid-picture error.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "platform/codec/picture_objects.h"
 #include "samples/sample_pictures.h"
 #include "tests/content/content_sheet.h"
+#include "tests/support/error_of.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon {
@@ -64,68 +66,61 @@ std::vector<std::string> Rows(const Canvas& canvas) {
 }
 
 std::unique_ptr<Canvas> Face(int width, int height) {
-  testing::TestButton button;
-  button.backColor = kFace;
-  return testing::FaceCanvas(button, width, height);
+  return testing::MakeFilledCanvas(width, height, kFace);
 }
 
 const std::vector<std::string> kRing{"cccc", "crrc", "crwc", "cccc"};
 
-TEST(PaintEffects, TransparentAndNormalCopies) {
-  LeakCheck leaks;
-  const StdPicture ring = PixelArt(kRing);
+// The ring picture, a 4 x 4 face to paint it on, and the effects that paint.
+class PaintEffectsTest : public ::testing::Test {
+ protected:
+  LeakCheck leaks_;
+  const StdPicture ring_ = PixelArt(kRing);
+  std::unique_ptr<Canvas> canvas_ = Face(4, 4);
+  const PaintEffects effects_;
+};
+
+TEST_F(PaintEffectsTest, TransparentAndNormalCopies) {
   auto canvas = Face(6, 5);
-  const PaintEffects effects;
-  effects.PaintTransparentStdPic(canvas->hdc(), 1, 1, 4, 4, ring, 0, 0, kCyan, nullptr);
-  EXPECT_EQ(Rows(*canvas), (std::vector<std::string>{"......", "......", "..rr..", "..rw..",
-                                                     "......"}));
+  effects_.PaintTransparentStdPic(canvas->hdc(), 1, 1, 4, 4, ring_, 0, 0, kCyan, nullptr);
+  EXPECT_EQ(Rows(*canvas),
+            (std::vector<std::string>{"......", "......", "..rr..", "..rw..", "......"}));
   // A source offset, and a system colour as the key (3-D light is white in the classic scheme).
-  effects.PaintTransparentStdPic(canvas->hdc(), 0, 0, 3, 3, ring, 1, 1, 0x80000014, nullptr);
+  effects_.PaintTransparentStdPic(canvas->hdc(), 0, 0, 3, 3, ring_, 1, 1, 0x80000014, nullptr);
   EXPECT_EQ(Rows(*canvas)[1], "r.c...");
-  effects.PaintNormalStdPic(canvas->hdc(), 2, 0, 4, 4, ring, 0, 0);
+  effects_.PaintNormalStdPic(canvas->hdc(), 2, 0, 4, 4, ring_, 0, 0);
   EXPECT_EQ(Rows(*canvas)[0], "rrcccc");
 }
 
-TEST(PaintEffects, InvalidPicturesRaise481AndDrawNothing) {
-  LeakCheck leaks;
-  auto canvas = Face(4, 4);
-  const PaintEffects effects;
-  const win::HDC dc = canvas->hdc();
-  for (const StdPicture& bad : {StdPicture{}, StdPicture::Empty(),
-                                StdPicture::Metafile(win::PICTYPE_METAFILE, 100, 100)}) {
-    const auto expect481 = [](auto operation, const char* source) {
-      try {
-        operation();
-        ADD_FAILURE() << source << " did not throw";
-      } catch (const AutomationError& error) {
-        EXPECT_EQ(error.Number(), 481);
-        EXPECT_EQ(error.Source(), source);
-      }
+TEST_F(PaintEffectsTest, InvalidPicturesRaise481AndDrawNothing) {
+  const win::HDC dc = canvas_->hdc();
+  for (const StdPicture& bad :
+       {StdPicture{}, StdPicture::Empty(), StdPicture::Metafile(win::PICTYPE_METAFILE, 100, 100)}) {
+    const auto expect481 = [](const std::function<void()>& operation, const char* source) {
+      const AutomationError error = testing::ErrorOf(operation);
+      EXPECT_EQ(error.Number(), 481);
+      EXPECT_EQ(error.Source(), source);
     };
-    expect481([&] { effects.PaintNormalStdPic(dc, 0, 0, 4, 4, bad, 0, 0); }, "PaintNormalStdPic");
-    expect481([&] { effects.PaintTransparentStdPic(dc, 0, 0, 4, 4, bad, 0, 0, kCyan); },
+    expect481([&] { effects_.PaintNormalStdPic(dc, 0, 0, 4, 4, bad, 0, 0); }, "PaintNormalStdPic");
+    expect481([&] { effects_.PaintTransparentStdPic(dc, 0, 0, 4, 4, bad, 0, 0, kCyan); },
               "PaintTransparentStdPic");
-    expect481([&] { effects.PaintDisabledStdPic(dc, 0, 0, 4, 4, bad, 0, 0); },
+    expect481([&] { effects_.PaintDisabledStdPic(dc, 0, 0, 4, 4, bad, 0, 0); },
               "PaintDisabledStdPic");
-    expect481([&] { effects.PaintMonoStandardPic(bad, *canvas, 0, 0, 4, 4); },
+    expect481([&] { effects_.PaintMonoStandardPic(bad, *canvas_, 0, 0, 4, 4); },
               "PaintMonoStandardPic");
-    expect481([&] { effects.PaintBlurredStandardPic(bad, *canvas, 0, 0, 4, 4); },
+    expect481([&] { effects_.PaintBlurredStandardPic(bad, *canvas_, 0, 0, 4, 4); },
               "PaintBlurredStandardPic");
   }
-  EXPECT_EQ(Rows(*canvas), (std::vector<std::string>(4, "....")));
+  EXPECT_EQ(Rows(*canvas_), (std::vector<std::string>(4, "....")));
 }
 
-TEST(PaintEffects, EmbossedLookDrawsInkInHighlightUnderShadow) {
-  LeakCheck leaks;
-  const StdPicture ring = PixelArt(kRing);
-  auto canvas = Face(4, 4);
-  const PaintEffects effects;
-  effects.PaintDisabledStdPic(canvas->hdc(), 0, 0, 4, 4, ring, 0, 0, kCyan, kWhite, kGrey);
+TEST_F(PaintEffectsTest, EmbossedLookDrawsInkInHighlightUnderShadow) {
+  effects_.PaintDisabledStdPic(canvas_->hdc(), 0, 0, 4, 4, ring_, 0, 0, kCyan, kWhite, kGrey);
   // Red is dark and becomes ink; white and the keyed cyan do not.
-  EXPECT_EQ(Rows(*canvas), (std::vector<std::string>{"....", ".gg.", ".gww", "..w."}));
+  EXPECT_EQ(Rows(*canvas_), (std::vector<std::string>{"....", ".gg.", ".gww", "..w."}));
 }
 
-TEST(PaintEffects, EmbossKeyAvoidsBothInkColours) {
+TEST_F(PaintEffectsTest, EmbossKeyAvoidsBothInkColours) {
   EXPECT_EQ(EmbossKeyColor(kGrey, kWhite), kBlack);
   EXPECT_EQ(EmbossKeyColor(kBlack, kWhite), kRed);
   EXPECT_EQ(EmbossKeyColor(kWhite, kBlack), kRed);
@@ -133,51 +128,38 @@ TEST(PaintEffects, EmbossKeyAvoidsBothInkColours) {
   EXPECT_EQ(EmbossKeyColor(kRed, kBlack), RGB(0, 0, 255));
 
   // A black shadow still shows: the ink is keyed on red instead.
-  LeakCheck leaks;
-  const StdPicture ring = PixelArt(kRing);
-  auto canvas = Face(4, 4);
-  const PaintEffects effects;
-  effects.PaintDisabledStdPic(canvas->hdc(), 0, 0, 4, 4, ring, 0, 0, kCyan, kWhite, kBlack);
-  EXPECT_EQ(Rows(*canvas)[1], ".kk.");
-  effects.PaintDisabledStdPic(canvas->hdc(), 0, 0, 4, 4, ring, 0, 0, kCyan, kRed, kBlack);
-  EXPECT_EQ(Rows(*canvas)[2], ".krr");
+  effects_.PaintDisabledStdPic(canvas_->hdc(), 0, 0, 4, 4, ring_, 0, 0, kCyan, kWhite, kBlack);
+  EXPECT_EQ(Rows(*canvas_)[1], ".kk.");
+  effects_.PaintDisabledStdPic(canvas_->hdc(), 0, 0, 4, 4, ring_, 0, 0, kCyan, kRed, kBlack);
+  EXPECT_EQ(Rows(*canvas_)[2], ".krr");
 }
 
-TEST(PaintEffects, WhiteMaskSkipsTheKeyingSoWhitePixelsVanish) {
-  LeakCheck leaks;
+TEST_F(PaintEffectsTest, WhiteMaskSkipsTheKeyingSoWhitePixelsVanish) {
   const StdPicture picture = PixelArt({"wwww", "wkbw", "wwcw", "wwww"});
-  auto canvas = Face(4, 4);
-  const PaintEffects effects;
-  effects.PaintDisabledStdPic(canvas->hdc(), 0, 0, 4, 4, picture, 0, 0, kWhite, kWhite, kGrey);
+  effects_.PaintDisabledStdPic(canvas_->hdc(), 0, 0, 4, 4, picture, 0, 0, kWhite, kWhite, kGrey);
   // Black and blue are ink; cyan and white are light and vanish with the background.
-  EXPECT_EQ(Rows(*canvas), (std::vector<std::string>{"....", ".gg.", "..ww", "...."}));
+  EXPECT_EQ(Rows(*canvas_), (std::vector<std::string>{"....", ".gg.", "..ww", "...."}));
 }
 
-TEST(PaintEffects, SilhouetteKeepsTheMaskOnlyWhenAskedTo) {
-  LeakCheck leaks;
-  const StdPicture ring = PixelArt(kRing);
-  auto canvas = Face(4, 4);
-  const PaintEffects effects;
-  effects.PaintMonoStandardPic(ring, *canvas, 0, 0, 4, 4, kCyan, kBlack, nullptr, true);
-  EXPECT_EQ(Rows(*canvas), (std::vector<std::string>{"....", ".kk.", ".kk.", "...."}));
-  effects.PaintMonoStandardPic(ring, *canvas, 0, 0, 4, 4, kCyan, kGrey, nullptr, false);
-  EXPECT_EQ(Rows(*canvas), (std::vector<std::string>(4, "gggg")));
+TEST_F(PaintEffectsTest, SilhouetteKeepsTheMaskOnlyWhenAskedTo) {
+  effects_.PaintMonoStandardPic(ring_, *canvas_, 0, 0, 4, 4, kCyan, kBlack, nullptr, true);
+  EXPECT_EQ(Rows(*canvas_), (std::vector<std::string>{"....", ".kk.", ".kk.", "...."}));
+  effects_.PaintMonoStandardPic(ring_, *canvas_, 0, 0, 4, 4, kCyan, kGrey, nullptr, false);
+  EXPECT_EQ(Rows(*canvas_), (std::vector<std::string>(4, "gggg")));
 }
 
-TEST(PaintEffects, IconsAreDrawnAtTheAskedSize) {
-  LeakCheck leaks;
+TEST_F(PaintEffectsTest, IconsAreDrawnAtTheAskedSize) {
   const StdPicture stop = samples::MakeSamplePicture(samples::SamplePicture::Stop16Icon);
   auto canvas = Face(34, 34);
-  const PaintEffects effects;
-  effects.PaintNormalStdPic(canvas->hdc(), 1, 1, 32, 32, stop, 0, 0);
+  effects_.PaintNormalStdPic(canvas->hdc(), 1, 1, 32, 32, stop, 0, 0);
   const auto painted = [&](int x, int y) { return win::GetPixel(canvas->hdc(), x, y) != kFace; };
-  EXPECT_FALSE(painted(1, 1));  // a masked corner
+  EXPECT_FALSE(painted(1, 1));   // a masked corner
   EXPECT_TRUE(painted(32, 16));  // the right edge of the octagon, twice as far out
   EXPECT_TRUE(painted(16, 32));
   EXPECT_FALSE(painted(33, 16));
   // Keyed: the icon's own transparency reads as the mask colour and stays out.
   auto keyed = Face(34, 34);
-  effects.PaintTransparentStdPic(keyed->hdc(), 1, 1, 32, 32, stop, 0, 0, kCyan);
+  effects_.PaintTransparentStdPic(keyed->hdc(), 1, 1, 32, 32, stop, 0, 0, kCyan);
   EXPECT_EQ(win::GetPixel(keyed->hdc(), 1, 1), kFace);
   EXPECT_EQ(win::GetPixel(keyed->hdc(), 16, 16), win::GetPixel(canvas->hdc(), 16, 16));
 }
@@ -196,13 +178,9 @@ TEST(PictureRewrites, BlurSpreadsIntoTheShadowColour) {
   EXPECT_EQ(unchanged, (std::vector<std::uint32_t>{1, 2, 3, 4}));
 }
 
-TEST(PaintEffects, BlurredPictureOfSmoothnessZeroIsTheKeyedCopy) {
-  LeakCheck leaks;
-  const StdPicture ring = PixelArt(kRing);
-  auto canvas = Face(4, 4);
-  const PaintEffects effects;
-  effects.PaintBlurredStandardPic(ring, *canvas, 0, 0, 4, 4, 0, kCyan, kBlack);
-  EXPECT_EQ(Rows(*canvas), (std::vector<std::string>{"....", ".rr.", ".rw.", "...."}));
+TEST_F(PaintEffectsTest, BlurredPictureOfSmoothnessZeroIsTheKeyedCopy) {
+  effects_.PaintBlurredStandardPic(ring_, *canvas_, 0, 0, 4, 4, 0, kCyan, kBlack);
+  EXPECT_EQ(Rows(*canvas_), (std::vector<std::string>{"....", ".rr.", ".rw.", "...."}));
 }
 
 }  // namespace

@@ -119,9 +119,7 @@ TEST(PixelSteps, ResizeStopsShortOfTheLastRowAndColumn) {
 
 TEST(PixelEffects, FadedPictureHalvesOverTheFaceAndKeepsTheMaskOut) {
   LeakCheck leaks;
-  testing::TestButton face;
-  face.backColor = win::RGB(100, 100, 100);
-  auto canvas = testing::FaceCanvas(face, 4, 2);
+  auto canvas = testing::MakeFilledCanvas(4, 2, win::RGB(100, 100, 100));
   cDIBSection picture;
   picture.Create(2, 1);
   Put(picture, 0, 0, 0, 50, 200);
@@ -140,9 +138,7 @@ TEST(PixelEffects, FadedPictureHalvesOverTheFaceAndKeepsTheMaskOut) {
 
 TEST(PixelEffects, ResizedFadeBlendsAFringeNextToTheMask) {
   LeakCheck leaks;
-  testing::TestButton face;
-  face.backColor = win::RGB(0, 0, 0);
-  auto canvas = testing::FaceCanvas(face, 8, 1);
+  auto canvas = testing::MakeFilledCanvas(8, 1, win::RGB(0, 0, 0));
   cDIBSection picture;
   picture.Create(3, 1);
   Put(picture, 0, 0, 0, 0, 200);

@@ -7,9 +7,7 @@
 
 #include "control/glyphon.h"
 #include "control/host/form_host.h"
-#include "platform/soft/soft_engine.h"
-#include "platform/soft/user/user_system.h"
-#include "tests/support/leak_check.h"
+#include "tests/control/hosted_button.h"
 
 namespace glyphon {
 namespace {
@@ -19,25 +17,26 @@ using testing::LeakCheck;
 win::soft::UserSystem& User() { return win::soft::ThreadSoftEngine().User(); }
 
 // Three buttons side by side: OK, Cancel and Help, each initialised with its caption.
-struct ThreeButtonForm {
-  ThreeButtonForm() {
+class FormHostTest : public ::testing::Test {
+ protected:
+  FormHostTest() {
     const char* captions[] = {"&OK", "&Cancel", "&Help"};
     for (int i = 0; i < 3; ++i) {
-      FormSite& site = form.AddSite("Button" + std::to_string(i + 1), SiteRect{10 + 90 * i, 10});
-      buttons.push_back(std::make_unique<Glyphon>(site));
-      site.Attach(buttons.back().get());
-      buttons.back()->InitProperties();
-      buttons.back()->SetCaption(captions[i]);
+      FormSite& site = form_.AddSite("Button" + std::to_string(i + 1), SiteRect{10 + 90 * i, 10});
+      buttons_.push_back(std::make_unique<Glyphon>(site));
+      site.Attach(buttons_.back().get());
+      buttons_.back()->InitProperties();
+      buttons_.back()->SetCaption(captions[i]);
     }
     User().MouseMove(win::POINT{350, 250});
-    for (const auto& site : form.Sites()) site->Recorder().ClearLog();
+    for (const auto& site : form_.Sites()) site->Recorder().ClearLog();
   }
-  ~ThreeButtonForm() {
-    for (const auto& site : form.Sites()) site->Attach(nullptr);
+  ~FormHostTest() override {
+    for (const auto& site : form_.Sites()) site->Attach(nullptr);
   }
 
-  FormSite& Site(int index) { return *form.Sites()[static_cast<std::size_t>(index)]; }
-  Glyphon& Button(int index) { return *buttons[static_cast<std::size_t>(index)]; }
+  FormSite& Site(int index) { return *form_.Sites()[static_cast<std::size_t>(index)]; }
+  Glyphon& Button(int index) { return *buttons_[static_cast<std::size_t>(index)]; }
   void Tab(bool shift = false) {
     if (shift) User().KeyDown(win::VK_SHIFT);
     User().KeyDown(win::VK_TAB);
@@ -50,103 +49,91 @@ struct ThreeButtonForm {
     User().KeyUp(win::VK_MENU);
   }
 
-  FormHost form;
-  std::vector<std::unique_ptr<Glyphon>> buttons;
+  // Number of clicks the button at index has had.
+  std::ptrdiff_t Clicks(int index) {
+    return testing::CountOf(Site(index).Recorder().Log(), "Click");
+  }
+
+  LeakCheck leaks_;
+  FormHost form_;
+  std::vector<std::unique_ptr<Glyphon>> buttons_;
 };
 
-TEST(FormHostTest, TabVisitsEnabledTabStopsInOrderAndWraps) {
-  LeakCheck leaks;
-  ThreeButtonForm f;
-  win::SetFocus(f.Site(0).hWnd());
-  f.Button(1).SetStealFocus(false);  // takes the button out of the tab order
-  f.Tab();
-  EXPECT_EQ(win::GetFocus(), f.Site(2).hWnd());
-  f.Tab();
-  EXPECT_EQ(win::GetFocus(), f.Site(0).hWnd()) << "wraps to the first";
-  f.Tab(true);
-  EXPECT_EQ(win::GetFocus(), f.Site(2).hWnd()) << "Shift+Tab goes back, wrapping";
+TEST_F(FormHostTest, TabVisitsEnabledTabStopsInOrderAndWraps) {
+  win::SetFocus(Site(0).hWnd());
+  Button(1).SetStealFocus(false);  // takes the button out of the tab order
+  Tab();
+  EXPECT_EQ(win::GetFocus(), Site(2).hWnd());
+  Tab();
+  EXPECT_EQ(win::GetFocus(), Site(0).hWnd()) << "wraps to the first";
+  Tab(true);
+  EXPECT_EQ(win::GetFocus(), Site(2).hWnd()) << "Shift+Tab goes back, wrapping";
 
-  f.Button(1).SetStealFocus(true);
-  f.Button(0).SetEnabled(false);
-  f.Tab();
-  EXPECT_EQ(win::GetFocus(), f.Site(1).hWnd()) << "a disabled button is skipped";
-  for (const auto& site : f.form.Sites()) {
+  Button(1).SetStealFocus(true);
+  Button(0).SetEnabled(false);
+  Tab();
+  EXPECT_EQ(win::GetFocus(), Site(1).hWnd()) << "a disabled button is skipped";
+  for (const auto& site : form_.Sites()) {
     for (const std::string& entry : site->Recorder().Log()) {
       EXPECT_TRUE(entry.find("(9") == std::string::npos) << "the control never sees Tab: " << entry;
     }
   }
 }
 
-TEST(FormHostTest, AltAndAnAccessKeyClicksTheButtonThatHasIt) {
-  LeakCheck leaks;
-  ThreeButtonForm f;
-  win::SetFocus(f.Site(0).hWnd());
-  f.AltKey('h');
-  EXPECT_EQ(win::GetFocus(), f.Site(2).hWnd());
-  EXPECT_EQ(std::count(f.Site(2).Recorder().Log().begin(), f.Site(2).Recorder().Log().end(),
-                       "Click"),
-            1);
-  EXPECT_TRUE(f.Site(0).Recorder().Log().empty() ||
-              std::count(f.Site(0).Recorder().Log().begin(), f.Site(0).Recorder().Log().end(),
-                         "Click") == 0);
+TEST_F(FormHostTest, AltAndAnAccessKeyClicksTheButtonThatHasIt) {
+  win::SetFocus(Site(0).hWnd());
+  AltKey('h');
+  EXPECT_EQ(win::GetFocus(), Site(2).hWnd());
+  EXPECT_EQ(Clicks(2), 1);
+  EXPECT_EQ(Clicks(0), 0);
 
-  f.Site(2).Recorder().ClearLog();
-  f.Button(2).SetEnabled(false);
-  f.AltKey('H');
-  EXPECT_EQ(std::count(f.Site(2).Recorder().Log().begin(), f.Site(2).Recorder().Log().end(),
-                       "Click"),
-            0)
-      << "a disabled button ignores its access key";
+  Site(2).Recorder().ClearLog();
+  Button(2).SetEnabled(false);
+  AltKey('H');
+  EXPECT_EQ(Clicks(2), 0) << "a disabled button ignores its access key";
 }
 
-TEST(FormHostTest, TheFocusedButtonShowsAsDefaultElseTheDefaultButtonDoes) {
-  LeakCheck leaks;
-  ThreeButtonForm f;
-  f.form.SetDefaultSite(&f.Site(0));
-  EXPECT_TRUE(f.Button(0).Default());
-  EXPECT_FALSE(f.Button(1).Default());
+TEST_F(FormHostTest, TheFocusedButtonShowsAsDefaultElseTheDefaultButtonDoes) {
+  form_.SetDefaultSite(&Site(0));
+  EXPECT_TRUE(Button(0).Default());
+  EXPECT_FALSE(Button(1).Default());
 
-  win::SetFocus(f.Site(1).hWnd());
-  EXPECT_FALSE(f.Button(0).Default());
-  EXPECT_TRUE(f.Button(1).Default());
+  win::SetFocus(Site(1).hWnd());
+  EXPECT_FALSE(Button(0).Default());
+  EXPECT_TRUE(Button(1).Default());
 
-  win::SetFocus(f.form.hWnd());
-  EXPECT_TRUE(f.Button(0).Default()) << "back to the default button when no button has focus";
-  EXPECT_FALSE(f.Button(1).Default());
+  win::SetFocus(form_.hWnd());
+  EXPECT_TRUE(Button(0).Default()) << "back to the default button when no button has focus";
+  EXPECT_FALSE(Button(1).Default());
 
-  f.Button(0).SetEnabled(false);
-  EXPECT_EQ(f.form.DefaultSite(), nullptr) << "disabling the default button takes the role away";
+  Button(0).SetEnabled(false);
+  EXPECT_EQ(form_.DefaultSite(), nullptr) << "disabling the default button takes the role away";
 }
 
-TEST(FormHostTest, EnterOnTheFormPressesTheDefaultButton) {
-  LeakCheck leaks;
-  ThreeButtonForm f;
-  f.form.SetDefaultSite(&f.Site(2));
-  win::SetFocus(f.form.hWnd());
+TEST_F(FormHostTest, EnterOnTheFormPressesTheDefaultButton) {
+  form_.SetDefaultSite(&Site(2));
+  win::SetFocus(form_.hWnd());
   User().Char('\r');
-  const auto& log = f.Site(2).Recorder().Log();
-  EXPECT_EQ(std::count(log.begin(), log.end(), "Click"), 1);
+  EXPECT_EQ(Clicks(2), 1);
 }
 
-TEST(FormHostTest, AmbientsComeFromTheFormAndItPaintsItsColour) {
-  LeakCheck leaks;
-  ThreeButtonForm f;
-  f.form.SetBackColor(0x00336699);
+TEST_F(FormHostTest, AmbientsComeFromTheFormAndItPaintsItsColour) {
+  form_.SetBackColor(0x00336699);
   User().DispatchPendingMessages();
-  EXPECT_EQ(f.Site(0).Ambient().BackColor(), 0x00336699u);
-  EXPECT_EQ(f.Site(0).GetExtender()->ContainerBackColor(), 0x00336699u);
-  EXPECT_EQ(f.Button(0).ContainerBackColor(), 0x00336699u);
-  EXPECT_EQ(f.Site(1).GetExtender()->Name(), "Button2");
+  EXPECT_EQ(Site(0).Ambient().BackColor(), 0x00336699u);
+  EXPECT_EQ(Site(0).GetExtender()->ContainerBackColor(), 0x00336699u);
+  EXPECT_EQ(Button(0).ContainerBackColor(), 0x00336699u);
+  EXPECT_EQ(Site(1).GetExtender()->Name(), "Button2");
 
-  const auto pixels = User().WindowPixels(f.form.hWnd());
-  const win::HDC screen = win::GetDC(f.form.hWnd());
+  const auto pixels = User().WindowPixels(form_.hWnd());
+  const win::HDC screen = win::GetDC(form_.hWnd());
   EXPECT_EQ(win::GetPixel(screen, 5, 5), 0x00336699u) << "the form paints its back colour";
   EXPECT_EQ(win::GetPixel(screen, 390, 290), 0x00336699u);
-  win::ReleaseDC(f.form.hWnd(), screen);
+  win::ReleaseDC(form_.hWnd(), screen);
   EXPECT_NE(pixels, nullptr);
 
-  f.form.SetUserMode(false);
-  EXPECT_FALSE(f.Button(2).UserMode());
+  form_.SetUserMode(false);
+  EXPECT_FALSE(Button(2).UserMode());
 }
 
 }  // namespace

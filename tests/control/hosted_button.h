@@ -2,6 +2,8 @@
 // give it: screen points, buttons and keys.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <string>
@@ -12,6 +14,7 @@
 #include "control/host/memory_host.h"
 #include "platform/soft/soft_engine.h"
 #include "platform/soft/user/user_system.h"
+#include "tests/support/leak_check.h"
 
 namespace glyphon::testing {
 
@@ -36,6 +39,16 @@ struct HostedButton {
 
   MemoryHost host;
   Glyphon button;
+};
+
+// A test with one initialised button; the leak check comes first, so it checks what is left once
+// the button is gone.
+class HostedButtonTest : public ::testing::Test {
+ protected:
+  LeakCheck leaks_;
+  HostedButton hosted_;
+  Glyphon& button_ = hosted_.button;
+  MemoryHost& host_ = hosted_.host;
 };
 
 // How many entries of the log equal entry.

@@ -7,10 +7,12 @@
 #include "control/glyphon_metadata.h"
 #include "control/property_access.h"
 #include "tests/control/hosted_button.h"
-#include "tests/support/leak_check.h"
+#include "tests/support/error_of.h"
 
 namespace glyphon::testing {
 namespace {
+
+using LateBindingTest = HostedButtonTest;
 
 TEST(MetadataTest, MembersHaveUniqueIdentifiersAndTheStandardOnes) {
   std::set<std::int32_t> defaultInterface;
@@ -42,65 +44,50 @@ TEST(MetadataTest, MembersHaveUniqueIdentifiersAndTheStandardOnes) {
   EXPECT_EQ(FindEnumeration("zonMousePointerConstants")->members.back().value, 99);
 }
 
-TEST(LateBindingTest, EveryPropertyReadsByName) {
-  LeakCheck leaks;
-  HostedButton hosted;
+TEST_F(LateBindingTest, EveryPropertyReadsByName) {
   for (const MemberInfo& member : GlyphonMembers()) {
     if (member.kind != MemberKind::Property) continue;
-    EXPECT_NO_THROW(GetPropertyByName(hosted.button, member.name)) << member.name;
+    EXPECT_NO_THROW(GetPropertyByName(button_, member.name)) << member.name;
   }
-  EXPECT_EQ(std::get<std::string>(GetPropertyByName(hosted.button, "caption")), "Glyphon1");
-  EXPECT_EQ(std::get<std::int32_t>(GetPropertyByName(hosted.button, "BackColor")),
+  EXPECT_EQ(std::get<std::string>(GetPropertyByName(button_, "caption")), "Glyphon1");
+  EXPECT_EQ(std::get<std::int32_t>(GetPropertyByName(button_, "BackColor")),
             static_cast<std::int32_t>(0x8000000F));
 }
 
-TEST(LateBindingTest, SettingByNameGoesThroughTheSetters) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
-  SetPropertyByName(b, "caption", std::string("&Run"));
-  EXPECT_EQ(hosted.host.AccessKeys(), "R");
-  SetPropertyByName(b, "ENABLED", std::int16_t{1});  // check-box values are non-zero integers
-  EXPECT_TRUE(b.Enabled());
-  SetPropertyByName(b, "PictureSpacing", std::string("9"));
-  EXPECT_EQ(b.PictureSpacing(), 9);
-  EXPECT_EQ(hosted.host.Log(), (std::vector<std::string>{"paint Up", "changed Caption",
-                                                         "paint Up", "changed Enabled",
-                                                         "paint Up", "changed PictureSpacing"}));
+TEST_F(LateBindingTest, SettingByNameGoesThroughTheSetters) {
+  SetPropertyByName(button_, "caption", std::string("&Run"));
+  EXPECT_EQ(host_.AccessKeys(), "R");
+  SetPropertyByName(button_, "ENABLED", std::int16_t{1});  // check-box values are non-zero integers
+  EXPECT_TRUE(button_.Enabled());
+  SetPropertyByName(button_, "PictureSpacing", std::string("9"));
+  EXPECT_EQ(button_.PictureSpacing(), 9);
+  EXPECT_EQ(host_.Log(),
+            (std::vector<std::string>{"paint Up", "changed Caption", "paint Up", "changed Enabled",
+                                      "paint Up", "changed PictureSpacing"}));
 
-  SetPropertyFromText(b, "style", "zonStylewin3x");
-  EXPECT_EQ(b.Style(), zonStyleWin3x);
-  SetPropertyFromText(b, "BackColor", "&H000000FF&");
-  EXPECT_EQ(b.BackColor(), 0x000000FFu);
-  SetPropertyFromText(b, "ShowFocus", "False");
-  EXPECT_FALSE(b.ShowFocus());
-  SetPropertyFromText(b, "Alignment", "1");
-  EXPECT_EQ(b.Alignment(), zonAlignRight);
+  SetPropertyFromText(button_, "style", "zonStylewin3x");
+  EXPECT_EQ(button_.Style(), zonStyleWin3x);
+  SetPropertyFromText(button_, "BackColor", "&H000000FF&");
+  EXPECT_EQ(button_.BackColor(), 0x000000FFu);
+  SetPropertyFromText(button_, "ShowFocus", "False");
+  EXPECT_FALSE(button_.ShowFocus());
+  SetPropertyFromText(button_, "Alignment", "1");
+  EXPECT_EQ(button_.Alignment(), zonAlignRight);
 }
 
-TEST(LateBindingTest, ErrorsOfLateBinding) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
-  const auto numberOf = [&](auto&& call) {
-    try {
-      call();
-    } catch (const AutomationError& error) {
-      return error.Number();
-    }
-    return 0;
+TEST_F(LateBindingTest, ErrorsOfLateBinding) {
+  const std::pair<std::function<void()>, std::int32_t> cases[] = {
+      {[&] { SetPropertyByName(button_, "NoSuchThing", true); }, kNoSuchMemberNumber},
+      {[&] { SetPropertyByName(button_, "ShowDefault", false); }, kNoSuchMemberNumber},
+      {[&] { SetPropertyByName(button_, "hWnd", std::int32_t{0}); }, kNoSuchMemberNumber},
+      {[&] { SetPropertyByName(button_, "Alignment", std::string("left")); }, kTypeMismatchNumber},
+      {[&] { SetPropertyFromText(button_, "Font", "Arial"); }, kTypeMismatchNumber},
+      // The setter's own error comes through unchanged.
+      {[&] { SetPropertyFromText(button_, "BorderStyle", "zonBorderSingle"); },
+       kControlErrorNumber},
   };
-  EXPECT_EQ(numberOf([&] { SetPropertyByName(b, "NoSuchThing", true); }), kNoSuchMemberNumber);
-  EXPECT_EQ(numberOf([&] { SetPropertyByName(b, "ShowDefault", false); }), kNoSuchMemberNumber);
-  EXPECT_EQ(numberOf([&] { SetPropertyByName(b, "hWnd", std::int32_t{0}); }),
-            kNoSuchMemberNumber);
-  EXPECT_EQ(numberOf([&] { SetPropertyByName(b, "Alignment", std::string("left")); }),
-            kTypeMismatchNumber);
-  EXPECT_EQ(numberOf([&] { SetPropertyFromText(b, "Font", "Arial"); }), kTypeMismatchNumber);
-  // The setter's own error comes through unchanged.
-  EXPECT_EQ(numberOf([&] { SetPropertyFromText(b, "BorderStyle", "zonBorderSingle"); }),
-            kControlErrorNumber);
-  EXPECT_EQ(b.Alignment(), zonAlignCenter);
+  for (const auto& [call, number] : cases) EXPECT_EQ(ErrorOf(call).Number(), number);
+  EXPECT_EQ(button_.Alignment(), zonAlignCenter);
 }
 
 }  // namespace

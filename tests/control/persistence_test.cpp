@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "control/host/memory_property_bag.h"
+#include "control/property_access.h"
 #include "surface/mod_colors.h"
 #include "tests/control/hosted_button.h"
 #include "tests/support/leak_check.h"
@@ -13,21 +14,21 @@ using Keys = std::vector<std::string>;
 using Log = std::vector<std::string>;
 
 const Keys kWrittenKeys{
-    "Caption",       "Alignment",     "Default",          "Enabled",         "Font",
-    "ToolTipText",   "StealFocus",    "BackColor",        "ForeColor",       "HighlightColor",
-    "ShadowColor",   "BorderColor",   "DisabledColor",    "MaskColor",       "UseMaskColor",
-    "Picture",       "PictureDown",   "PictureOver",      "PictureDisabled", "PictureAlignment",
-    "PictureSpacing", "PictureStyle", "ShowFocus",        "ShowDefault",     "BorderStyle",
-    "DropShadow",    "Style",         "MouseIcon",        "MousePointer",    "RightToLeft"};
+    "Caption",        "Alignment",    "Default",       "Enabled",         "Font",
+    "ToolTipText",    "StealFocus",   "BackColor",     "ForeColor",       "HighlightColor",
+    "ShadowColor",    "BorderColor",  "DisabledColor", "MaskColor",       "UseMaskColor",
+    "Picture",        "PictureDown",  "PictureOver",   "PictureDisabled", "PictureAlignment",
+    "PictureSpacing", "PictureStyle", "ShowFocus",     "ShowDefault",     "BorderStyle",
+    "DropShadow",     "Style",        "MouseIcon",     "MousePointer",    "RightToLeft"};
 
 // Keys read before the colour rule and between it and the style rule.
-const Keys kLeadingReads{"Caption", "Alignment", "Default", "ToolTipText", "StealFocus",
+const Keys kLeadingReads{"Caption", "Alignment", "Default",   "ToolTipText", "StealFocus",
                          "Font",    "Enabled",   "BackColor", "ForeColor"};
 const Keys kDependentColors{"ShadowColor", "BorderColor", "HighlightColor", "DisabledColor"};
-const Keys kMiddleReads{"MaskColor",       "UseMaskColor",     "Picture",      "PictureDown",
-                        "PictureOver",     "PictureDisabled",  "PictureAlignment",
-                        "PictureStyle",    "PictureSpacing",   "Style",        "DropShadow",
-                        "MouseIcon",       "MousePointer",     "RightToLeft"};
+const Keys kMiddleReads{"MaskColor",      "UseMaskColor",    "Picture",          "PictureDown",
+                        "PictureOver",    "PictureDisabled", "PictureAlignment", "PictureStyle",
+                        "PictureSpacing", "Style",           "DropShadow",       "MouseIcon",
+                        "MousePointer",   "RightToLeft"};
 
 Keys Concat(std::initializer_list<Keys> parts) {
   Keys all;
@@ -35,12 +36,14 @@ Keys Concat(std::initializer_list<Keys> parts) {
   return all;
 }
 
+using PersistenceTest = HostedButtonTest;
+
 std::int32_t StoredInt(const MemoryPropertyBag& bag, std::string_view key) {
   const PropertyValue* value = bag.Find(key);
   return value != nullptr ? std::get<std::int32_t>(*value) : -12345;
 }
 
-TEST(PersistenceTest, NewInstanceGetsTheDefaults) {
+TEST(NewInstanceTest, GetsTheDefaults) {
   LeakCheck leaks;
   HostedButton hosted({}, false);
   Glyphon& b = hosted.button;
@@ -62,7 +65,7 @@ TEST(PersistenceTest, NewInstanceGetsTheDefaults) {
   EXPECT_EQ(hosted.host.Log(), Log{"changed Font"});
 }
 
-TEST(PersistenceTest, CaptionFallsBackWhenTheContainerHasNoName) {
+TEST(NewInstanceTest, CaptionFallsBackWhenTheContainerHasNoName) {
   LeakCheck leaks;
   HostedButton hosted({}, false);
   hosted.host.ExtenderObject().name.reset();
@@ -74,129 +77,105 @@ TEST(PersistenceTest, CaptionFallsBackWhenTheContainerHasNoName) {
   EXPECT_EQ(hosted.button.Caption(), "Glyphon");
 }
 
-TEST(PersistenceTest, WritesAllThirtyKeysInOrderWhateverTheStyle) {
-  LeakCheck leaks;
-  HostedButton hosted;
+TEST_F(PersistenceTest, WritesAllThirtyKeysInOrderWhateverTheStyle) {
   MemoryPropertyBag bag;
-  hosted.button.WriteProperties(bag);
+  button_.WriteProperties(bag);
   EXPECT_EQ(bag.WrittenKeys(), kWrittenKeys);
 
-  hosted.button.SetStyle(zonStyleMac8x);  // every key is written whatever the style
+  button_.SetStyle(zonStyleMac8x);  // every key is written whatever the style
   MemoryPropertyBag macBag;
-  hosted.button.WriteProperties(macBag);
+  button_.WriteProperties(macBag);
   EXPECT_EQ(macBag.WrittenKeys(), kWrittenKeys);
 }
 
-TEST(PersistenceTest, RoundTripRestoresEveryProperty) {
+TEST(RoundTripTest, RestoresEveryProperty) {
   LeakCheck leaks;
   MemoryPropertyBag bag;
   const StdPicture picture = StdPicture::FromBitmap(nullptr, false);
   StdFont font;
   font.Name("Arial");
-  font.Size(10);
+  // In the order they are set: the style before its border, disabling last.
+  const std::pair<const char*, PropertyValue> customised[] = {
+      {"Style", zonStyleWin3x},
+      {"BorderStyle", zonBorderNone},
+      {"Caption", std::string("&Print")},
+      {"Alignment", zonAlignRight},
+      {"Default", true},
+      {"ToolTipText", std::string("Prints")},
+      {"StealFocus", false},
+      {"BackColor", std::int32_t{win::RGB(10, 20, 30)}},
+      {"ShadowColor", 0x010101},
+      {"ForeColor", 0x00FF00},
+      {"MaskColor", 0x0000FF},
+      {"UseMaskColor", false},
+      {"Picture", picture},
+      {"PictureDisabled", picture},
+      {"PictureAlignment", zonPicAlignBottom},
+      {"PictureSpacing", 12},
+      {"PictureStyle", zonPicStyleMono},
+      {"ShowFocus", false},
+      {"DropShadow", true},
+      {"MousePointer", zonCustom},
+      {"RightToLeft", true},
+      {"Enabled", false},
+  };
   {
     HostedButton saved;
-    Glyphon& b = saved.button;
-    b.SetStyle(zonStyleWin3x);
-    b.SetBorderStyle(zonBorderNone);
-    b.SetCaption("&Print");
-    b.SetAlignment(zonAlignRight);
-    b.SetDefault(true);
-    b.SetToolTipText("Prints");
-    b.SetStealFocus(false);
-    b.SetFont(font);
-    b.SetBackColor(win::RGB(10, 20, 30));
-    b.SetShadowColor(0x010101);
-    b.SetForeColor(0x00FF00);
-    b.SetMaskColor(0x0000FF);
-    b.SetUseMaskColor(false);
-    b.SetPicture(picture);
-    b.SetPictureDisabled(picture);
-    b.SetPictureAlignment(zonPicAlignBottom);
-    b.SetPictureSpacing(12);
-    b.SetPictureStyle(zonPicStyleMono);
-    b.SetShowFocus(false);
-    b.SetDropShadow(true);
-    b.SetMousePointer(zonCustom);
-    b.SetRightToLeft(true);
-    b.SetEnabled(false);
-    b.WriteProperties(bag);
+    saved.button.SetFont(font);
+    for (const auto& [name, value] : customised) SetPropertyByName(saved.button, name, value);
+    saved.button.WriteProperties(bag);
   }
 
   HostedButton loaded({}, false);
   Glyphon& b = loaded.button;
   b.ReadProperties(bag);
-  EXPECT_EQ(b.Caption(), "&Print");
+  for (const auto& [name, value] : customised) {
+    if (std::string_view(name) == "Default") continue;
+    EXPECT_TRUE(SameStoredValue(GetPropertyByName(b, name), value)) << name;
+  }
+  EXPECT_FALSE(b.Default()) << "disabling cleared it before saving";
   EXPECT_EQ(b.DisplayCaption(), "Print");
   EXPECT_EQ(loaded.host.AccessKeys(), "P");
-  EXPECT_EQ(b.Alignment(), zonAlignRight);
-  EXPECT_FALSE(b.Default()) << "disabling cleared it before saving";
-  EXPECT_EQ(b.ToolTipText(), "Prints");
-  EXPECT_FALSE(b.StealFocus());
   EXPECT_EQ(b.Font().Name(), "Arial");
-  EXPECT_EQ(b.BackColor(), win::RGB(10, 20, 30));
-  EXPECT_EQ(b.ShadowColor(), 0x010101u);
-  EXPECT_EQ(b.ForeColor(), 0x00FF00u);
-  EXPECT_EQ(b.MaskColor(), 0x0000FFu);
-  EXPECT_FALSE(b.UseMaskColor());
-  EXPECT_EQ(b.Picture(), picture);
-  EXPECT_EQ(b.PictureDisabled(), picture);
   EXPECT_TRUE(b.PictureDown().IsNothing());
-  EXPECT_EQ(b.PictureAlignment(), zonPicAlignBottom);
-  EXPECT_EQ(b.PictureSpacing(), 12);
-  EXPECT_EQ(b.PictureStyle(), zonPicStyleMono);
-  EXPECT_EQ(b.Style(), zonStyleWin3x);
-  EXPECT_EQ(b.BorderStyle(), zonBorderNone);
-  EXPECT_FALSE(b.ShowFocus());
-  EXPECT_TRUE(b.DropShadow());
-  EXPECT_EQ(b.MousePointer(), zonCustom);
-  EXPECT_TRUE(b.RightToLeft());
-  EXPECT_FALSE(b.Enabled());
   EXPECT_EQ(b.PushLook(), 1);
   EXPECT_EQ(StoredInt(bag, "PictureSpacing"), 12) << "written as 32-bit";
 }
 
-TEST(PersistenceTest, CaptionEqualToTheNameFollowsARename) {
-  LeakCheck leaks;
+TEST_F(PersistenceTest, CaptionEqualToTheNameFollowsARename) {
   MemoryPropertyBag bag;
-  HostedButton hosted;
-  hosted.button.WriteProperties(bag);
+  button_.WriteProperties(bag);
   EXPECT_EQ(bag.Find("Caption"), nullptr);
 
-  hosted.host.ExtenderObject().name = "cmdRenamed";
-  hosted.button.ReadProperties(bag);
-  EXPECT_EQ(hosted.button.Caption(), "cmdRenamed");
+  host_.ExtenderObject().name = "cmdRenamed";
+  button_.ReadProperties(bag);
+  EXPECT_EQ(button_.Caption(), "cmdRenamed");
 }
 
-TEST(PersistenceTest, ReadOrderAndTheSystemColourRule) {
-  LeakCheck leaks;
-  HostedButton hosted;
+TEST_F(PersistenceTest, ReadOrderAndTheSystemColourRule) {
   MemoryPropertyBag bag;
   bag.Store("ShadowColor", std::int32_t{0x0000FF});
-  hosted.button.ReadProperties(bag);
+  button_.ReadProperties(bag);
   EXPECT_EQ(bag.ReadKeys(), Concat({kLeadingReads, kMiddleReads, {"ShowFocus", "ShowDefault"}}));
   // With a system back colour the stored shadow is ignored and the colours are derived.
   win::COLORREF shadow = 0;
   win::COLORREF border = 0;
   win::COLORREF highlight = 0;
   modColors::DeriveButtonColors(0x8000000F, shadow, border, highlight);
-  EXPECT_EQ(hosted.button.ShadowColor(), shadow);
-  EXPECT_EQ(hosted.button.DisabledColor(), shadow);
-  EXPECT_EQ(hosted.button.HighlightColor(), highlight);
+  EXPECT_EQ(button_.ShadowColor(), shadow);
+  EXPECT_EQ(button_.DisabledColor(), shadow);
+  EXPECT_EQ(button_.HighlightColor(), highlight);
 
   bag.Store("BackColor", static_cast<std::int32_t>(win::RGB(1, 2, 3)));
   bag.ClearKeyLog();
-  hosted.button.ReadProperties(bag);
-  EXPECT_EQ(bag.ReadKeys(), Concat({kLeadingReads, kDependentColors, kMiddleReads,
-                                    {"ShowFocus", "ShowDefault"}}));
-  EXPECT_EQ(hosted.button.ShadowColor(), 0x0000FFu);
-  EXPECT_EQ(hosted.button.DisabledColor(), 0x80000011u);
+  button_.ReadProperties(bag);
+  EXPECT_EQ(bag.ReadKeys(),
+            Concat({kLeadingReads, kDependentColors, kMiddleReads, {"ShowFocus", "ShowDefault"}}));
+  EXPECT_EQ(button_.ShadowColor(), 0x0000FFu);
+  EXPECT_EQ(button_.DisabledColor(), 0x80000011u);
 }
 
-TEST(PersistenceTest, StyleDecidesWhichSettingsAreRead) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
+TEST_F(PersistenceTest, StyleDecidesWhichSettingsAreRead) {
   MemoryPropertyBag bag;
   bag.Store("BorderStyle", std::int32_t{zonBorderSingle});
   bag.Store("ShowFocus", false);
@@ -218,72 +197,66 @@ TEST(PersistenceTest, StyleDecidesWhichSettingsAreRead) {
   for (const Case& c : cases) {
     bag.Store("Style", c.style);
     bag.ClearKeyLog();
-    b.ReadProperties(bag);
+    button_.ReadProperties(bag);
     const Keys& reads = bag.ReadKeys();
-    EXPECT_EQ(Keys(reads.end() - static_cast<long>(c.styleReads.size()), reads.end()),
-              c.styleReads)
+    EXPECT_EQ(Keys(reads.end() - static_cast<long>(c.styleReads.size()), reads.end()), c.styleReads)
         << c.style;
-    EXPECT_EQ(b.BorderStyle(), c.borderStyle) << c.style;
-    EXPECT_EQ(b.ShowFocus(), c.showFocus) << c.style;
-    EXPECT_EQ(b.ShowDefault(), c.showDefault) << c.style;
+    EXPECT_EQ(button_.BorderStyle(), c.borderStyle) << c.style;
+    EXPECT_EQ(button_.ShowFocus(), c.showFocus) << c.style;
+    EXPECT_EQ(button_.ShowDefault(), c.showDefault) << c.style;
   }
 
   bag.Store("ShowFocus", true);
   bag.Store("Style", std::int32_t{zonStyleMac8x});
-  b.ReadProperties(bag);
-  EXPECT_FALSE(b.ShowFocus()) << "a Mac button never shows focus";
+  button_.ReadProperties(bag);
+  EXPECT_FALSE(button_.ShowFocus()) << "a Mac button never shows focus";
   bag.Store("BorderStyle", std::int32_t{zonBorderNone});
   bag.Store("Style", std::int32_t{zonStyleWinXPBlue});
-  b.ReadProperties(bag);
-  EXPECT_EQ(b.BorderStyle(), zonBorderSingle);
+  button_.ReadProperties(bag);
+  EXPECT_EQ(button_.BorderStyle(), zonBorderSingle);
 }
 
-TEST(PersistenceTest, MissingPointerLoadsAsArrow) {
-  LeakCheck leaks;
-  HostedButton hosted;
+TEST_F(PersistenceTest, MissingPointerLoadsAsArrow) {
   MemoryPropertyBag bag;
-  hosted.button.ReadProperties(bag);
-  EXPECT_EQ(hosted.button.MousePointer(), zonArrow);
+  button_.ReadProperties(bag);
+  EXPECT_EQ(button_.MousePointer(), zonArrow);
 }
 
-TEST(PersistenceTest, ValuesOfOtherTypesAreCoercedOrDefaulted) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
+TEST_F(PersistenceTest, ValuesOfOtherTypesAreCoercedOrDefaulted) {
   MemoryPropertyBag bag;
-  bag.Store("Alignment", std::int16_t{zonAlignLeft});          // widened
-  bag.Store("MousePointer", std::int32_t{zonIBeam});           // narrowed, fits
-  bag.Store("PictureSpacing", std::string("  17 "));           // numeric text
-  bag.Store("BackColor", std::string("&H00FF0000"));           // hexadecimal text
-  bag.Store("Caption", std::int32_t{42});                      // number as text
-  bag.Store("Default", std::int16_t{-1});                      // Boolean as integer
-  bag.Store("Style", std::string("XP please"));                // not a number: default
-  bag.Store("RightToLeft", StdPicture::Empty());               // wrong kind: default
-  bag.Store("Font", std::int32_t{3});                          // not a font: ambient font
-  bag.Store("Picture", std::string("photo.bmp"));              // not a picture: none
-  bag.Store("PictureStyle", std::int32_t{70000});              // no range check here
+  bag.Store("Alignment", std::int16_t{zonAlignLeft});  // widened
+  bag.Store("MousePointer", std::int32_t{zonIBeam});   // narrowed, fits
+  bag.Store("PictureSpacing", std::string("  17 "));   // numeric text
+  bag.Store("BackColor", std::string("&H00FF0000"));   // hexadecimal text
+  bag.Store("Caption", std::int32_t{42});              // number as text
+  bag.Store("Default", std::int16_t{-1});              // Boolean as integer
+  bag.Store("Style", std::string("XP please"));        // not a number: default
+  bag.Store("RightToLeft", StdPicture::Empty());       // wrong kind: default
+  bag.Store("Font", std::int32_t{3});                  // not a font: ambient font
+  bag.Store("Picture", std::string("photo.bmp"));      // not a picture: none
+  bag.Store("PictureStyle", std::int32_t{70000});      // no range check here
   bag.Store("UseMaskColor", std::monostate{});
 
-  b.ReadProperties(bag);
-  EXPECT_EQ(b.Alignment(), zonAlignLeft);
-  EXPECT_EQ(b.MousePointer(), zonIBeam);
-  EXPECT_EQ(b.PictureSpacing(), 17);
-  EXPECT_EQ(b.BackColor(), 0x00FF0000u);
-  EXPECT_EQ(b.Caption(), "42");
-  EXPECT_TRUE(b.Default());
-  EXPECT_EQ(b.Style(), zonStyleWin9x);
-  EXPECT_FALSE(b.RightToLeft());
-  EXPECT_EQ(b.Font().Name(), hosted.host.Ambient().Font().Name());
-  EXPECT_TRUE(b.Picture().IsNothing());
-  EXPECT_EQ(b.PictureStyle(), 70000);
-  EXPECT_TRUE(b.UseMaskColor());
+  button_.ReadProperties(bag);
+  EXPECT_EQ(button_.Alignment(), zonAlignLeft);
+  EXPECT_EQ(button_.MousePointer(), zonIBeam);
+  EXPECT_EQ(button_.PictureSpacing(), 17);
+  EXPECT_EQ(button_.BackColor(), 0x00FF0000u);
+  EXPECT_EQ(button_.Caption(), "42");
+  EXPECT_TRUE(button_.Default());
+  EXPECT_EQ(button_.Style(), zonStyleWin9x);
+  EXPECT_FALSE(button_.RightToLeft());
+  EXPECT_EQ(button_.Font().Name(), host_.Ambient().Font().Name());
+  EXPECT_TRUE(button_.Picture().IsNothing());
+  EXPECT_EQ(button_.PictureStyle(), 70000);
+  EXPECT_TRUE(button_.UseMaskColor());
 
   bag.Store("MousePointer", std::int32_t{40000});  // does not fit 16 bits: default
-  b.ReadProperties(bag);
-  EXPECT_EQ(b.MousePointer(), zonArrow);
+  button_.ReadProperties(bag);
+  EXPECT_EQ(button_.MousePointer(), zonArrow);
 }
 
-TEST(PersistenceTest, LoadingPaintsNothingUntilItEnds) {
+TEST(NewInstanceTest, LoadingPaintsNothingUntilItEnds) {
   LeakCheck leaks;
   HostedButton hosted({}, false);
   MemoryPropertyBag bag;

@@ -6,149 +6,121 @@
 #include "control/glyphon_errors.h"
 #include "surface/mod_colors.h"
 #include "tests/control/hosted_button.h"
-#include "tests/support/leak_check.h"
+#include "tests/support/error_of.h"
 
 namespace glyphon::testing {
 namespace {
 
 using Log = std::vector<std::string>;
 
-// Runs the call and returns the error it raised; fails the test when it raised none.
-AutomationError ErrorOf(const std::function<void()>& call) {
-  try {
-    call();
-  } catch (const AutomationError& error) {
-    return error;
-  }
-  ADD_FAILURE() << "no error raised";
-  return AutomationError(0, "", "");
-}
+using PropertiesTest = HostedButtonTest;
 
-TEST(PropertiesTest, LookSettersStoreRepaintThenNotify) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
+TEST_F(PropertiesTest, LookSettersStoreRepaintThenNotify) {
   const std::vector<std::pair<std::string, std::function<void()>>> setters{
-      {"Alignment", [&] { b.SetAlignment(zonAlignLeft); }},
-      {"BorderColor", [&] { b.SetBorderColor(0x112233); }},
-      {"Caption", [&] { b.SetCaption("Go"); }},
-      {"Default", [&] { b.SetDefault(true); }},
-      {"DisabledColor", [&] { b.SetDisabledColor(0x445566); }},
-      {"DropShadow", [&] { b.SetDropShadow(true); }},
-      {"Enabled", [&] { b.SetEnabled(true); }},
-      {"ForeColor", [&] { b.SetForeColor(0x0000FF); }},
-      {"HighlightColor", [&] { b.SetHighlightColor(0xFFFFFF); }},
-      {"MaskColor", [&] { b.SetMaskColor(0x00FF00); }},
-      {"PictureAlignment", [&] { b.SetPictureAlignment(zonPicAlignTop); }},
-      {"PictureSpacing", [&] { b.SetPictureSpacing(-7); }},
-      {"PictureStyle", [&] { b.SetPictureStyle(zonPicStyleActive); }},
-      {"ShadowColor", [&] { b.SetShadowColor(0x808080); }},
-      {"ShowFocus", [&] { b.SetShowFocus(false); }},
-      {"Style", [&] { b.SetStyle(zonStyleWinXPSilver); }},
-      {"UseMaskColor", [&] { b.SetUseMaskColor(false); }},
-      {"Picture", [&] { b.SetPicture(StdPicture{}); }},
+      {"Alignment", [&] { button_.SetAlignment(zonAlignLeft); }},
+      {"BorderColor", [&] { button_.SetBorderColor(0x112233); }},
+      {"Caption", [&] { button_.SetCaption("Go"); }},
+      {"Default", [&] { button_.SetDefault(true); }},
+      {"DisabledColor", [&] { button_.SetDisabledColor(0x445566); }},
+      {"DropShadow", [&] { button_.SetDropShadow(true); }},
+      {"Enabled", [&] { button_.SetEnabled(true); }},
+      {"ForeColor", [&] { button_.SetForeColor(0x0000FF); }},
+      {"HighlightColor", [&] { button_.SetHighlightColor(0xFFFFFF); }},
+      {"MaskColor", [&] { button_.SetMaskColor(0x00FF00); }},
+      {"PictureAlignment", [&] { button_.SetPictureAlignment(zonPicAlignTop); }},
+      {"PictureSpacing", [&] { button_.SetPictureSpacing(-7); }},
+      {"PictureStyle", [&] { button_.SetPictureStyle(zonPicStyleActive); }},
+      {"ShadowColor", [&] { button_.SetShadowColor(0x808080); }},
+      {"ShowFocus", [&] { button_.SetShowFocus(false); }},
+      {"Style", [&] { button_.SetStyle(zonStyleWinXPSilver); }},
+      {"UseMaskColor", [&] { button_.SetUseMaskColor(false); }},
+      {"Picture", [&] { button_.SetPicture(StdPicture{}); }},
   };
   for (const auto& [name, set] : setters) {
-    hosted.host.ClearLog();
+    host_.ClearLog();
     set();
-    EXPECT_EQ(hosted.host.Log(), (Log{"paint Up", "changed " + name})) << name;
+    EXPECT_EQ(host_.Log(), (Log{"paint Up", "changed " + name})) << name;
   }
-  EXPECT_EQ(b.PictureSpacing(), -7) << "no range check";
+  EXPECT_EQ(button_.PictureSpacing(), -7) << "no range check";
 }
 
-TEST(PropertiesTest, DelegatedSettersNotifyWithoutRepainting) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
-
-  b.SetMousePointer(zonHourglass);
-  b.SetRightToLeft(true);
-  b.SetToolTipText("tip");
-  b.SetTag("kept by the host");
-  EXPECT_EQ(hosted.host.Log(),
+TEST_F(PropertiesTest, DelegatedSettersNotifyWithoutRepainting) {
+  button_.SetMousePointer(zonHourglass);
+  button_.SetRightToLeft(true);
+  button_.SetToolTipText("tip");
+  button_.SetTag("kept by the host");
+  EXPECT_EQ(host_.Log(),
             (Log{"changed MousePointer", "changed RightToLeft", "changed ToolTipText"}));
-  EXPECT_EQ(hosted.host.MousePointer(), zonHourglass);
-  EXPECT_TRUE(hosted.host.RightToLeft());
-  EXPECT_EQ(hosted.host.Tag(), "kept by the host");
-  EXPECT_EQ(b.ToolTipText(), "tip");
+  EXPECT_EQ(host_.MousePointer(), zonHourglass);
+  EXPECT_TRUE(host_.RightToLeft());
+  EXPECT_EQ(host_.Tag(), "kept by the host");
+  EXPECT_EQ(button_.ToolTipText(), "tip");
 
-  const AutomationError overflow = ErrorOf([&] { b.SetMousePointer(40000); });
+  const AutomationError overflow = ErrorOf([&] { button_.SetMousePointer(40000); });
   EXPECT_EQ(overflow.Number(), kOverflowNumber);
-  EXPECT_EQ(b.MousePointer(), zonHourglass);
+  EXPECT_EQ(button_.MousePointer(), zonHourglass);
 }
 
-TEST(PropertiesTest, BackColorDerivesTheFrameColours) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
+TEST_F(PropertiesTest, BackColorDerivesTheFrameColours) {
   const win::OLE_COLOR back = win::RGB(212, 208, 200);
-  b.SetBackColor(back);
+  button_.SetBackColor(back);
 
   win::COLORREF shadow = 0;
   win::COLORREF border = 0;
   win::COLORREF highlight = 0;
   modColors::DeriveButtonColors(back, shadow, border, highlight);
-  EXPECT_EQ(b.BackColor(), back);
-  EXPECT_EQ(b.ShadowColor(), shadow);
-  EXPECT_EQ(b.BorderColor(), border);
-  EXPECT_EQ(b.HighlightColor(), highlight);
-  EXPECT_EQ(b.DisabledColor(), shadow);
-  EXPECT_EQ(b.BorderColor(), 0u);
+  EXPECT_EQ(button_.BackColor(), back);
+  EXPECT_EQ(button_.ShadowColor(), shadow);
+  EXPECT_EQ(button_.BorderColor(), border);
+  EXPECT_EQ(button_.HighlightColor(), highlight);
+  EXPECT_EQ(button_.DisabledColor(), shadow);
+  EXPECT_EQ(button_.BorderColor(), 0u);
   // The derived colours are not notified on their own.
-  EXPECT_EQ(hosted.host.Log(), (Log{"paint Up", "changed BackColor"}));
+  EXPECT_EQ(host_.Log(), (Log{"paint Up", "changed BackColor"}));
 }
 
-TEST(PropertiesTest, BorderStyleOnlyForWin3x) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
+TEST_F(PropertiesTest, BorderStyleOnlyForWin3x) {
   for (const std::int32_t style : {zonStyleWin9x, zonStyleWinXPBlue, zonStyleMac8x}) {
-    b.SetStyle(style);
-    const std::int32_t before = b.BorderStyle();
-    hosted.host.ClearLog();
-    const AutomationError error = ErrorOf([&] { b.SetBorderStyle(zonBorderSingle - before); });
+    button_.SetStyle(style);
+    const std::int32_t before = button_.BorderStyle();
+    host_.ClearLog();
+    const AutomationError error = ErrorOf([&] { button_.SetBorderStyle(1 - before); });
     EXPECT_EQ(error.Number(), static_cast<std::int32_t>(0x800403E8));
     EXPECT_EQ(error.Source(), "BorderStyle");
     EXPECT_EQ(error.Description(), "BorderStyle can only be set for the Win3x style.");
-    EXPECT_EQ(b.BorderStyle(), before);
-    EXPECT_EQ(hosted.host.Log(), Log{});
+    EXPECT_EQ(button_.BorderStyle(), before);
+    EXPECT_EQ(host_.Log(), Log{});
   }
-  b.SetStyle(zonStyleWin3x);
-  hosted.host.ClearLog();
-  b.SetBorderStyle(zonBorderNone);
-  EXPECT_EQ(b.BorderStyle(), zonBorderNone);
-  EXPECT_EQ(hosted.host.Log(), (Log{"paint Up", "changed BorderStyle"}));
+  button_.SetStyle(zonStyleWin3x);
+  host_.ClearLog();
+  button_.SetBorderStyle(zonBorderNone);
+  EXPECT_EQ(button_.BorderStyle(), zonBorderNone);
+  EXPECT_EQ(host_.Log(), (Log{"paint Up", "changed BorderStyle"}));
 }
 
-TEST(PropertiesTest, StyleForcesClassicSettingsOnly) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
-  b.SetStyle(zonStyleWin3x);
-  b.SetBorderStyle(zonBorderNone);
-  b.SetShowFocus(false);
+TEST_F(PropertiesTest, StyleForcesClassicSettingsOnly) {
+  button_.SetStyle(zonStyleWin3x);
+  button_.SetBorderStyle(zonBorderNone);
+  button_.SetShowFocus(false);
 
-  b.SetStyle(zonStyleWinXPBlue);  // leaves all three as they are
-  EXPECT_EQ(b.BorderStyle(), zonBorderNone);
-  EXPECT_FALSE(b.ShowFocus());
-  b.SetStyle(zonStyleWin3x);
-  EXPECT_EQ(b.BorderStyle(), zonBorderSingle);
-  EXPECT_TRUE(b.ShowFocus());
-  b.SetStyle(zonStyleWin9x);
-  EXPECT_EQ(b.BorderStyle(), zonBorderNone);
-  EXPECT_TRUE(b.ShowDefault());
+  button_.SetStyle(zonStyleWinXPBlue);  // leaves all three as they are
+  EXPECT_EQ(button_.BorderStyle(), zonBorderNone);
+  EXPECT_FALSE(button_.ShowFocus());
+  button_.SetStyle(zonStyleWin3x);
+  EXPECT_EQ(button_.BorderStyle(), zonBorderSingle);
+  EXPECT_TRUE(button_.ShowFocus());
+  button_.SetStyle(zonStyleWin9x);
+  EXPECT_EQ(button_.BorderStyle(), zonBorderNone);
+  EXPECT_TRUE(button_.ShowDefault());
 
-  b.SetStyle(zonStyleMac8x);
-  hosted.host.ClearLog();
-  b.SetShowFocus(false);  // silently ignored for the Mac look
-  EXPECT_TRUE(b.ShowFocus());
-  EXPECT_EQ(hosted.host.Log(), Log{});
+  button_.SetStyle(zonStyleMac8x);
+  host_.ClearLog();
+  button_.SetShowFocus(false);  // silently ignored for the Mac look
+  EXPECT_TRUE(button_.ShowFocus());
+  EXPECT_EQ(host_.Log(), Log{});
 }
 
-TEST(PropertiesTest, PictureRuleAcceptsBitmapsAndIconsOnly) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
+TEST_F(PropertiesTest, PictureRuleAcceptsBitmapsAndIconsOnly) {
   const StdPicture bitmap = StdPicture::FromBitmap(nullptr, false);
   const StdPicture metafile = StdPicture::Metafile(win::PICTYPE_METAFILE, 100, 100);
   const StdPicture enhanced = StdPicture::Metafile(win::PICTYPE_ENHMETAFILE, 100, 100);
@@ -168,103 +140,89 @@ TEST(PropertiesTest, PictureRuleAcceptsBitmapsAndIconsOnly) {
        "PictureDisabled"},
   };
   for (const Case& c : cases) {
-    (b.*c.set)(bitmap);
-    EXPECT_EQ((b.*c.get)(), bitmap) << c.name;
-    hosted.host.ClearLog();
+    (button_.*c.set)(bitmap);
+    EXPECT_EQ((button_.*c.get)(), bitmap) << c.name;
+    host_.ClearLog();
     for (const StdPicture& refused : {metafile, enhanced}) {
-      const AutomationError error = ErrorOf([&] { (b.*c.set)(refused); });
+      const AutomationError error = ErrorOf([&] { (button_.*c.set)(refused); });
       EXPECT_EQ(error.Number(), kControlErrorNumber);
       EXPECT_EQ(error.Source(), c.source) << c.name;
       EXPECT_EQ(error.Description(),
                 "Picture, PictureOver, PictureDown, and PictureDisabled Properties must be "
                 "Bitmap or Icon.");
-      EXPECT_EQ((b.*c.get)(), bitmap) << c.name << " kept";
+      EXPECT_EQ((button_.*c.get)(), bitmap) << c.name << " kept";
     }
-    EXPECT_EQ(hosted.host.Log(), Log{}) << c.name;
+    EXPECT_EQ(host_.Log(), Log{}) << c.name;
 
-    (b.*c.set)(StdPicture::Empty());
-    EXPECT_TRUE((b.*c.get)().IsNothing()) << c.name << ": an empty picture clears";
+    (button_.*c.set)(StdPicture::Empty());
+    EXPECT_TRUE((button_.*c.get)().IsNothing()) << c.name << ": an empty picture clears";
   }
 }
 
-TEST(PropertiesTest, DisablingAndNotStealingClearDefault) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
+TEST_F(PropertiesTest, DisablingAndNotStealingClearDefault) {
+  button_.SetDefault(true);
+  button_.SetEnabled(false);
+  EXPECT_FALSE(button_.Default());
+  EXPECT_FALSE(win::IsWindowEnabled(host_.hWnd()));
+  button_.SetEnabled(true);
+  EXPECT_FALSE(button_.Default()) << "not restored";
 
-  b.SetDefault(true);
-  b.SetEnabled(false);
-  EXPECT_FALSE(b.Default());
-  EXPECT_FALSE(win::IsWindowEnabled(hosted.host.hWnd()));
-  b.SetEnabled(true);
-  EXPECT_FALSE(b.Default()) << "not restored";
+  button_.SetDefault(true);
+  host_.ClearLog();
+  button_.SetStealFocus(false);
+  EXPECT_FALSE(button_.Default());
+  EXPECT_EQ(host_.ExtenderObject().tabStop, false);
+  EXPECT_EQ(host_.Log(), (Log{"paint Up", "changed Default", "changed StealFocus"}));
+  button_.SetStealFocus(true);
+  EXPECT_FALSE(button_.Default()) << "not restored";
+  EXPECT_EQ(host_.ExtenderObject().tabStop, true);
 
-  b.SetDefault(true);
-  hosted.host.ClearLog();
-  b.SetStealFocus(false);
-  EXPECT_FALSE(b.Default());
-  EXPECT_EQ(hosted.host.ExtenderObject().tabStop, false);
-  EXPECT_EQ(hosted.host.Log(), (Log{"paint Up", "changed Default", "changed StealFocus"}));
-  b.SetStealFocus(true);
-  EXPECT_FALSE(b.Default()) << "not restored";
-  EXPECT_EQ(hosted.host.ExtenderObject().tabStop, true);
-
-  hosted.host.ExtenderObject().tabStop.reset();  // a container without TabStop
-  b.SetStealFocus(false);
-  EXPECT_FALSE(b.StealFocus());
-  hosted.host.SetHasExtender(false);
-  b.SetStealFocus(true);
-  EXPECT_TRUE(b.StealFocus());
+  host_.ExtenderObject().tabStop.reset();  // a container without TabStop
+  button_.SetStealFocus(false);
+  EXPECT_FALSE(button_.StealFocus());
+  host_.SetHasExtender(false);
+  button_.SetStealFocus(true);
+  EXPECT_TRUE(button_.StealFocus());
 }
 
-TEST(PropertiesTest, CaptionRegistersTheFirstAccessKey) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
-
-  b.SetCaption("&Save && Exit");
-  EXPECT_EQ(b.DisplayCaption(), "Save && Exit");
-  EXPECT_EQ(b.AccessKeyPosition(), 1);
-  EXPECT_EQ(hosted.host.AccessKeys(), "S");
-
-  b.SetCaption("A&&B");  // no escape: the first "&" marks the second as the key
-  EXPECT_EQ(b.DisplayCaption(), "A&B");
-  EXPECT_EQ(b.AccessKeyPosition(), 2);
-  EXPECT_EQ(hosted.host.AccessKeys(), "&");
-
-  b.SetCaption("Plain");  // the previous key stays registered
-  EXPECT_EQ(b.DisplayCaption(), "Plain");
-  EXPECT_EQ(b.AccessKeyPosition(), 0);
-  EXPECT_EQ(hosted.host.AccessKeys(), "&");
-
-  b.SetCaption("End&");
-  EXPECT_EQ(b.DisplayCaption(), "End");
-  EXPECT_EQ(b.AccessKeyPosition(), 4);
-  EXPECT_EQ(hosted.host.AccessKeys(), "");
-  EXPECT_EQ(b.Caption(), "End&");
+TEST_F(PropertiesTest, CaptionRegistersTheFirstAccessKey) {
+  struct Case {
+    const char* caption;
+    const char* display;
+    std::int32_t keyPosition;
+    const char* registered;
+  };
+  for (const Case c : {Case{"&Save && Exit", "Save && Exit", 1, "S"},
+                       // No escape: the first "&" marks the second as the key.
+                       Case{"A&&B", "A&B", 2, "&"},
+                       // The previous key stays registered.
+                       Case{"Plain", "Plain", 0, "&"}, Case{"End&", "End", 4, ""}}) {
+    button_.SetCaption(c.caption);
+    EXPECT_EQ(button_.Caption(), c.caption);
+    EXPECT_EQ(button_.DisplayCaption(), c.display) << c.caption;
+    EXPECT_EQ(button_.AccessKeyPosition(), c.keyPosition) << c.caption;
+    EXPECT_EQ(host_.AccessKeys(), c.registered) << c.caption;
+  }
 }
 
-TEST(PropertiesTest, FontIsCopiedIntoTheHostsFont) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
+TEST_F(PropertiesTest, FontIsCopiedIntoTheHostsFont) {
   StdFont font;
   font.Name("Arial");
   font.Size(12);
   font.Italic(true);
   font.Weight(700);
-  hosted.host.ClearLog();
-  b.SetFont(font);
-  EXPECT_EQ(hosted.host.Log(), (Log{"paint Up", "changed Font"}));
+  host_.ClearLog();
+  button_.SetFont(font);
+  EXPECT_EQ(host_.Log(), (Log{"paint Up", "changed Font"}));
 
   font.Name("Courier New");  // later changes to the caller's font do not reach the button
-  EXPECT_EQ(b.Font().Name(), "Arial");
-  EXPECT_EQ(b.Font().Size(), 12);
-  EXPECT_TRUE(b.Font().Italic());
-  EXPECT_TRUE(b.Font().Bold());
-  EXPECT_EQ(b.Font().Weight(), 700);
-  ASSERT_TRUE(hosted.host.Font().has_value());
-  EXPECT_EQ(hosted.host.Font()->Name(), "Arial");
+  EXPECT_EQ(button_.Font().Name(), "Arial");
+  EXPECT_EQ(button_.Font().Size(), 12);
+  EXPECT_TRUE(button_.Font().Italic());
+  EXPECT_TRUE(button_.Font().Bold());
+  EXPECT_EQ(button_.Font().Weight(), 700);
+  ASSERT_TRUE(host_.Font().has_value());
+  EXPECT_EQ(host_.Font()->Name(), "Arial");
 }
 
 }  // namespace

@@ -9,6 +9,8 @@ namespace {
 
 using Log = std::vector<std::string>;
 
+using RedrawTest = HostedButtonTest;
+
 // A colour no look paints with.
 constexpr win::COLORREF kMarker = win::RGB(1, 2, 3);
 
@@ -31,7 +33,7 @@ win::SIZE PaintedExtent(HostedButton& hosted) {
   return extent;
 }
 
-TEST(RedrawTest, FractionalSizesRoundHalfToEven) {
+TEST(RedrawSizeTest, FractionalSizesRoundHalfToEven) {
   LeakCheck leaks;
   MemoryHostOptions options;
   options.width = 2.5;
@@ -49,17 +51,15 @@ TEST(RedrawTest, FractionalSizesRoundHalfToEven) {
   EXPECT_EQ(PaintedExtent(hosted).cx, 6);
 }
 
-TEST(RedrawTest, ResizeRepaintsAtTheNewSize) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  hosted.host.SetClientSize(7, 3);
-  EXPECT_EQ(hosted.host.Log(), Log{"paint Up"});
-  const win::SIZE extent = PaintedExtent(hosted);
+TEST_F(RedrawTest, ResizeRepaintsAtTheNewSize) {
+  host_.SetClientSize(7, 3);
+  EXPECT_EQ(host_.Log(), Log{"paint Up"});
+  const win::SIZE extent = PaintedExtent(hosted_);
   EXPECT_EQ(extent.cx, 7);
   EXPECT_EQ(extent.cy, 3);
 }
 
-TEST(RedrawTest, NothingPaintsWhileLoadingButRefresh) {
+TEST(NewInstanceTest, NothingPaintsWhileLoadingButRefresh) {
   LeakCheck leaks;
   HostedButton hosted({}, false);
   Glyphon& b = hosted.button;
@@ -80,32 +80,27 @@ TEST(RedrawTest, NothingPaintsWhileLoadingButRefresh) {
   EXPECT_EQ(hosted.host.Log(), Log{"paint Up"});
 }
 
-TEST(RedrawTest, PaintMessageRepaintsThroughTheHost) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  win::InvalidateRect(hosted.host.hWnd(), nullptr, win::FALSE);
-  win::UpdateWindow(hosted.host.hWnd());
-  EXPECT_EQ(hosted.host.Log(), Log{"paint Up"});
+TEST_F(RedrawTest, PaintMessageRepaintsThroughTheHost) {
+  win::InvalidateRect(host_.hWnd(), nullptr, win::FALSE);
+  win::UpdateWindow(host_.hWnd());
+  EXPECT_EQ(host_.Log(), Log{"paint Up"});
 }
 
-TEST(RedrawTest, TerminateDropsThreePicturesAndStopsListening) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
+TEST_F(RedrawTest, TerminateDropsThreePicturesAndStopsListening) {
   const StdPicture picture = StdPicture::FromBitmap(nullptr, false);
-  b.SetPicture(picture);
-  b.SetPictureDown(picture);
-  b.SetPictureOver(picture);
-  b.SetPictureDisabled(picture);
-  b.Terminate();
-  EXPECT_TRUE(b.Picture().IsNothing());
-  EXPECT_TRUE(b.PictureDown().IsNothing());
-  EXPECT_TRUE(b.PictureOver().IsNothing());
-  EXPECT_EQ(b.PictureDisabled(), picture) << "left to the object's own end";
+  button_.SetPicture(picture);
+  button_.SetPictureDown(picture);
+  button_.SetPictureOver(picture);
+  button_.SetPictureDisabled(picture);
+  button_.Terminate();
+  EXPECT_TRUE(button_.Picture().IsNothing());
+  EXPECT_TRUE(button_.PictureDown().IsNothing());
+  EXPECT_TRUE(button_.PictureOver().IsNothing());
+  EXPECT_EQ(button_.PictureDisabled(), picture) << "left to the object's own end";
 
-  hosted.host.ClearLog();
-  win::SetFocus(hosted.host.hWnd());
-  EXPECT_FALSE(b.HasFocus()) << "no longer subclassed";
+  host_.ClearLog();
+  win::SetFocus(host_.hWnd());
+  EXPECT_FALSE(button_.HasFocus()) << "no longer subclassed";
 }
 
 }  // namespace

@@ -11,6 +11,9 @@ namespace {
 
 using Log = std::vector<std::string>;
 
+using SubclassMessageTest = HostedButtonTest;
+using TooltipTest = HostedButtonTest;
+
 win::WNDPROC WindowProcOf(win::HWND hwnd) {
   return reinterpret_cast<win::WNDPROC>(win::GetWindowLongPtrA(hwnd, win::GWLP_WNDPROC));
 }
@@ -56,25 +59,22 @@ TEST(SubclassTest, SubclassesOnceAndRestoresTheWindowProcedure) {
   }
 }
 
-TEST(SubclassTest, SystemColourChangeRederivesFromASystemBackColour) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Glyphon& b = hosted.button;
-  b.SetShadowColor(0x123456);
-  b.SetDisabledColor(0x654321);
-  hosted.host.ClearLog();
-  win::SendMessageA(hosted.host.hWnd(), win::WM_SYSCOLORCHANGE, 0, 0);
-  EXPECT_NE(b.ShadowColor(), 0x123456u);
-  EXPECT_EQ(b.DisabledColor(), b.ShadowColor());
-  EXPECT_EQ(hosted.host.Log(), Log{}) << "no repaint here";
+TEST_F(SubclassMessageTest, SystemColourChangeRederivesFromASystemBackColour) {
+  button_.SetShadowColor(0x123456);
+  button_.SetDisabledColor(0x654321);
+  host_.ClearLog();
+  win::SendMessageA(host_.hWnd(), win::WM_SYSCOLORCHANGE, 0, 0);
+  EXPECT_NE(button_.ShadowColor(), 0x123456u);
+  EXPECT_EQ(button_.DisabledColor(), button_.ShadowColor());
+  EXPECT_EQ(host_.Log(), Log{}) << "no repaint here";
 
-  b.SetBackColor(win::RGB(200, 0, 0));
-  b.SetShadowColor(0x123456);
-  win::SendMessageA(hosted.host.hWnd(), win::WM_SYSCOLORCHANGE, 0, 0);
-  EXPECT_EQ(b.ShadowColor(), 0x123456u) << "explicit colours stay";
+  button_.SetBackColor(win::RGB(200, 0, 0));
+  button_.SetShadowColor(0x123456);
+  win::SendMessageA(host_.hWnd(), win::WM_SYSCOLORCHANGE, 0, 0);
+  EXPECT_EQ(button_.ShadowColor(), 0x123456u) << "explicit colours stay";
 }
 
-TEST(TooltipTest, NoTooltipWindowAtDesignTime) {
+TEST(DesignTimeTest, NoTooltipWindow) {
   LeakCheck leaks;
   MemoryHostOptions designTime;
   designTime.userMode = false;
@@ -83,54 +83,48 @@ TEST(TooltipTest, NoTooltipWindowAtDesignTime) {
   EXPECT_EQ(TooltipWindow(), nullptr);
 }
 
-TEST(TooltipTest, NewInstancesGetNoTooltipUntilLoaded) {
-  LeakCheck leaks;
-  HostedButton hosted;
+TEST_F(TooltipTest, NewInstancesGetNoTooltipUntilLoaded) {
   EXPECT_EQ(TooltipWindow(), nullptr);
-  Load(hosted);
+  Load(hosted_);
   const win::HWND tooltip = TooltipWindow();
   ASSERT_NE(tooltip, nullptr);
-  EXPECT_TRUE(hosted.User().TooltipState(tooltip).has_value());
+  EXPECT_TRUE(hosted_.User().TooltipState(tooltip).has_value());
 }
 
-TEST(TooltipTest, TextComesFromTheContainerUntilTheButtonsOwnIsSet) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  hosted.host.ExtenderObject().toolTipText = "container's tip";
-  Load(hosted);
-  const win::HWND control = hosted.host.hWnd();
+TEST_F(TooltipTest, TextComesFromTheContainerUntilTheButtonsOwnIsSet) {
+  host_.ExtenderObject().toolTipText = "container's tip";
+  Load(hosted_);
+  const win::HWND control = host_.hWnd();
   const win::HWND tooltip = TooltipWindow();
 
   EXPECT_STREQ(RequestedText(control, tooltip), "container's tip");
   EXPECT_EQ(RequestedText(control, control), nullptr) << "only the shared tooltip is answered";
 
-  hosted.host.ExtenderObject().toolTipText.reset();
+  host_.ExtenderObject().toolTipText.reset();
   EXPECT_EQ(RequestedText(control, tooltip), nullptr) << "a container without the text";
 
-  hosted.button.SetToolTipText("");
+  button_.SetToolTipText("");
   EXPECT_STREQ(RequestedText(control, tooltip), "") << "set, even to nothing, the button wins";
-  hosted.button.SetToolTipText("mine");
+  button_.SetToolTipText("mine");
   EXPECT_STREQ(RequestedText(control, tooltip), "mine");
 }
 
-TEST(TooltipTest, HoveringShowsTheTextThroughRelayedMouseMessages) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  Load(hosted);
-  hosted.button.SetToolTipText("Saves the file");
-  hosted.MoveTo(5, 5);
-  hosted.User().AdvanceClock(2000);
-  const auto state = hosted.User().TooltipState(TooltipWindow());
+TEST_F(TooltipTest, HoveringShowsTheTextThroughRelayedMouseMessages) {
+  Load(hosted_);
+  button_.SetToolTipText("Saves the file");
+  hosted_.MoveTo(5, 5);
+  hosted_.User().AdvanceClock(2000);
+  const auto state = hosted_.User().TooltipState(TooltipWindow());
   ASSERT_TRUE(state.has_value());
   EXPECT_TRUE(state->visible);
   EXPECT_EQ(state->text, "Saves the file");
 
-  hosted.Press(5, 5);  // a click hides it
-  EXPECT_FALSE(hosted.User().TooltipState(TooltipWindow())->visible);
-  hosted.Release(5, 5);  // the thread's engine outlives the test: no button left down
+  hosted_.Press(5, 5);  // a click hides it
+  EXPECT_FALSE(hosted_.User().TooltipState(TooltipWindow())->visible);
+  hosted_.Release(5, 5);  // the thread's engine outlives the test: no button left down
 }
 
-TEST(TooltipTest, ButtonsOfAThreadShareOneWindowThatGoesWithTheLast) {
+TEST(SharedTooltipTest, ButtonsOfAThreadShareOneWindowThatGoesWithTheLast) {
   LeakCheck leaks;
   {
     HostedButton first;

@@ -6,6 +6,7 @@
 
 #include "control/glyphon_errors.h"
 #include "tests/propertypage/page_fixture.h"
+#include "tests/support/error_of.h"
 #include "tests/support/leak_check.h"
 
 namespace glyphon::testing {
@@ -97,8 +98,8 @@ TEST(GeneralPageLayoutTest, ControlsCaptionsAccessKeysAndPlaces) {
         << expected[i].name;
     for (std::size_t j = 0; j < i; ++j) {
       const win::RECT& o = controls[j]->Bounds();
-      const bool apart = r.right <= o.left || o.right <= r.left || r.bottom <= o.top ||
-                         o.bottom <= r.top;
+      const bool apart =
+          r.right <= o.left || o.right <= r.left || r.bottom <= o.top || o.bottom <= r.top;
       EXPECT_TRUE(apart) << expected[i].name << " overlaps " << controls[j]->Name();
     }
   }
@@ -107,15 +108,11 @@ TEST(GeneralPageLayoutTest, ControlsCaptionsAccessKeysAndPlaces) {
 }
 
 TEST_F(PageTest, ListsAreIndexThenConstantAndOfferNoActivePictureStyle) {
-  LeakCheck leaks;
-  HostedButton hosted;
   hosted.button.SetPictureStyle(zonPicStyleActive);
-  GlyphonObject button(hosted.button);
-  Select(button);
-  EXPECT_EQ(page.cboStyle.Items(),
-            (Strings{"0 - zonStyleWin9x", "1 - zonStyleWin3x", "2 - zonStyleWinXPBlue",
-                     "3 - zonStyleWinXPOliveGreen", "4 - zonStyleWinXPSilver",
-                     "5 - zonStyleMac8x"}));
+  Select(object);
+  EXPECT_EQ(page.cboStyle.Items(), (Strings{"0 - zonStyleWin9x", "1 - zonStyleWin3x",
+                                            "2 - zonStyleWinXPBlue", "3 - zonStyleWinXPOliveGreen",
+                                            "4 - zonStyleWinXPSilver", "5 - zonStyleMac8x"}));
   EXPECT_EQ(page.cboBorderStyle.Items(), (Strings{"0 - zonBorderNone", "1 - zonBorderSingle"}));
   EXPECT_EQ(page.cboPictureAlignment.Items(),
             (Strings{"0 - zonPicAlignLeft", "1 - zonPicAlignRight", "2 - zonPicAlignCenter",
@@ -132,13 +129,12 @@ TEST_F(PageTest, ListsAreIndexThenConstantAndOfferNoActivePictureStyle) {
   EXPECT_EQ(hosted.button.PictureStyle(), zonPicStyleActive);
 
   // Showing the page again rebuilds the lists rather than adding to them.
-  Select(button);
+  Select(object);
   EXPECT_EQ(page.cboAlignment.Items().size(), 3u);
 }
 
 TEST_F(PageTest, OnlyTheFirstOfSeveralSelectedButtonsIsReadAndWritten) {
-  LeakCheck leaks;
-  HostedButton first;
+  HostedButton& first = hosted;
   HostedButton second;
   first.button.SetCaption("First");
   first.button.SetPictureSpacing(-7);
@@ -148,9 +144,8 @@ TEST_F(PageTest, OnlyTheFirstOfSeveralSelectedButtonsIsReadAndWritten) {
   second.button.SetCaption("Second");
   first.host.ClearLog();
   second.host.ClearLog();
-  GlyphonObject a(first.button);
-  GlyphonObject b(second.button);
-  Select({&a, &b});
+  GlyphonObject other(second.button);
+  Select({&object, &other});
 
   EXPECT_EQ(page.txtCaption.Text(), "First");
   EXPECT_EQ(page.txtPictureSpacing.Text(), "-7");
@@ -170,11 +165,8 @@ TEST_F(PageTest, OnlyTheFirstOfSeveralSelectedButtonsIsReadAndWritten) {
 }
 
 TEST_F(PageTest, FillingThePageNeitherPromptsNorMarksItChanged) {
-  LeakCheck leaks;
-  HostedButton hosted;
   hosted.button.SetStyle(zonStyleMac8x);
   hosted.button.SetDropShadow(true);
-  GlyphonObject button(hosted.button);
 
   struct Listener final : GeneralPageListener {
     void ControlChanged(const PageControl& control) override { names.emplace_back(control.Name()); }
@@ -183,7 +175,7 @@ TEST_F(PageTest, FillingThePageNeitherPromptsNorMarksItChanged) {
     std::vector<bool> flags;
   } listener;
   page.SetListener(&listener);
-  Select(button);
+  Select(object);
 
   EXPECT_TRUE(prompts.empty());
   EXPECT_FALSE(page.Changed());
@@ -206,9 +198,6 @@ TEST_F(PageTest, FillingThePageNeitherPromptsNorMarksItChanged) {
 }
 
 TEST_F(PageTest, YesToTheStylePromptSetsThatStylesDefaults) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  GlyphonObject button(hosted.button);
   page.SetPromptOwner(hosted.host.FormWindow(), "Form Designer");
   answer = win::IDYES;
   struct Case {
@@ -220,7 +209,7 @@ TEST_F(PageTest, YesToTheStylePromptSetsThatStylesDefaults) {
   for (const Case c : {Case{zonStyleWin3x, 1, 1}, Case{zonStyleWinXPBlue, 1, 1},
                        Case{zonStyleWinXPOliveGreen, 1, 1}, Case{zonStyleWinXPSilver, 1, 1},
                        Case{zonStyleMac8x, 1, 0}}) {
-    Select(button);
+    Select(object);
     page.cboBorderStyle.SetListIndex(zonBorderNone);
     page.chkShowDefault.SetValue(CheckBox::kUnchecked);
     page.chkShowFocus.SetValue(CheckBox::kUnchecked);
@@ -233,7 +222,7 @@ TEST_F(PageTest, YesToTheStylePromptSetsThatStylesDefaults) {
   }
   // Back to Win9x from Win3x: no border.
   hosted.button.SetStyle(zonStyleWin3x);
-  Select(button);
+  Select(object);
   page.cboStyle.SetListIndex(zonStyleWin9x);
   EXPECT_EQ(page.cboBorderStyle.ListIndex(), zonBorderNone);
 
@@ -246,10 +235,7 @@ TEST_F(PageTest, YesToTheStylePromptSetsThatStylesDefaults) {
 }
 
 TEST_F(PageTest, NoToTheStylePromptChangesNoValueYetEnablesAndMarks) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  GlyphonObject button(hosted.button);
-  Select(button);
+  Select(object);
   page.cboStyle.SetListIndex(zonStyleWin3x);
   ASSERT_EQ(prompts.size(), 1u);
   EXPECT_EQ(prompts[0].caption, "<none>");  // the system's title when the host gave none
@@ -262,20 +248,17 @@ TEST_F(PageTest, NoToTheStylePromptChangesNoValueYetEnablesAndMarks) {
 }
 
 TEST_F(PageTest, EnabledStatesByStyleOnBothPaths) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  GlyphonObject button(hosted.button);
   const char* const onSelection[] = {"EEDD", "EEEE", "DEDD", "DEDD", "DEDD", "EDDD"};
   const char* const onStyleClick[] = {"EEDD", "EEEE", "DEDD", "DEDD", "DEDD", "E?DD"};
   for (std::int32_t style = zonStyleWin9x; style <= zonStyleMac8x; ++style) {
     hosted.button.SetStyle(style);
-    Select(button);
+    Select(object);
     EXPECT_EQ(EnabledStates(page), onSelection[style]) << "selection, style " << style;
 
     // Choosing the style: Mac8x leaves ShowFocus as it was, enabled or not.
     for (const bool showFocusBefore : {true, false}) {
       hosted.button.SetStyle(style == zonStyleWin9x ? zonStyleWin3x : zonStyleWin9x);
-      Select(button);
+      Select(object);
       page.chkShowFocus.SetEnabled(showFocusBefore);
       page.cboStyle.SetListIndex(style);
       std::string expected = onStyleClick[style];
@@ -316,12 +299,9 @@ TEST_F(PageTest, LeavingABoxSelectsItsWholeText) {
 }
 
 TEST_F(PageTest, ApplyWritesInOrderButNeverBorderStyle) {
-  LeakCheck leaks;
-  HostedButton hosted;
   hosted.button.SetStyle(zonStyleWin3x);
   hosted.host.ClearLog();
-  GlyphonObject inner(hosted.button);
-  RecordingObject button(inner);
+  RecordingObject button(object);
   Select(std::vector<LateBoundObject*>{&button});
 
   page.txtCaption.SetText("&Run");
@@ -336,13 +316,12 @@ TEST_F(PageTest, ApplyWritesInOrderButNeverBorderStyle) {
   // ShowDefault is read-only, so its check box has nothing to write.
   EXPECT_EQ(button.written,
             (Strings{"Caption", "PictureSpacing", "Tag", "UseMaskColor", "Enabled", "Style",
-                     "ShowFocus", "PictureAlignment", "PictureStyle", "Alignment",
-                     "DropShadow"}));
-  EXPECT_EQ(Only(hosted.host.Log(), "changed"),
-            (Strings{"changed Caption", "changed PictureSpacing", "changed UseMaskColor",
-                     "changed Enabled", "changed Style", "changed ShowFocus",
-                     "changed PictureAlignment", "changed PictureStyle", "changed Alignment",
-                     "changed DropShadow"}));
+                     "ShowFocus", "PictureAlignment", "PictureStyle", "Alignment", "DropShadow"}));
+  EXPECT_EQ(
+      Only(hosted.host.Log(), "changed"),
+      (Strings{"changed Caption", "changed PictureSpacing", "changed UseMaskColor",
+               "changed Enabled", "changed Style", "changed ShowFocus", "changed PictureAlignment",
+               "changed PictureStyle", "changed Alignment", "changed DropShadow"}));
   EXPECT_EQ(hosted.host.AccessKeys(), "R");
   EXPECT_EQ(hosted.button.PictureSpacing(), 12);
   EXPECT_EQ(hosted.host.Tag(), "tag");
@@ -353,22 +332,15 @@ TEST_F(PageTest, ApplyWritesInOrderButNeverBorderStyle) {
 }
 
 TEST_F(PageTest, ApplyErrorsReachTheHostUnchangedAndKeepThePageChanged) {
-  LeakCheck leaks;
-  HostedButton hosted;
-  GlyphonObject inner(hosted.button);
-  RecordingObject button(inner);
+  RecordingObject button(object);
   button.failOn = "Style";
   Select(std::vector<LateBoundObject*>{&button});
   page.txtCaption.SetText("Go");
   page.chkDropShadow.Toggle();
-  try {
-    page.ApplyChanges();
-    FAIL() << "no error";
-  } catch (const AutomationError& error) {
-    EXPECT_EQ(error.Number(), kControlErrorNumber);
-    EXPECT_EQ(error.Source(), "Style");
-    EXPECT_EQ(error.Description(), "Setter failed.");
-  }
+  const AutomationError refused = ErrorOf([&] { page.ApplyChanges(); });
+  EXPECT_EQ(refused.Number(), kControlErrorNumber);
+  EXPECT_EQ(refused.Source(), "Style");
+  EXPECT_EQ(refused.Description(), "Setter failed.");
   EXPECT_EQ(button.written.back(), "Style");
   EXPECT_EQ(hosted.button.Caption(), "Go");
   EXPECT_FALSE(hosted.button.DropShadow());  // written after the failure: not reached
@@ -378,12 +350,7 @@ TEST_F(PageTest, ApplyErrorsReachTheHostUnchangedAndKeepThePageChanged) {
   button.failOn.clear();
   button.written.clear();
   page.txtPictureSpacing.SetText("99999999999");
-  try {
-    page.ApplyChanges();
-    FAIL() << "no error";
-  } catch (const AutomationError& error) {
-    EXPECT_EQ(error.Number(), kOverflowNumber);
-  }
+  EXPECT_EQ(ErrorOf([&] { page.ApplyChanges(); }).Number(), kOverflowNumber);
   EXPECT_EQ(button.written, Strings{"Caption"});
 }
 

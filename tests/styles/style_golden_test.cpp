@@ -59,40 +59,45 @@ std::string NameOf(const LookCase& c) {
   return name;
 }
 
+// The case for the style in the state, changed by setUp.
+template <class SetUp>
+LookCase Case(std::int32_t style, std::int32_t state, SetUp setUp) {
+  LookCase c = ForStyle(style);
+  c.state = state;
+  setUp(c);
+  return c;
+}
+
 std::vector<LookCase> AllCases() {
   std::vector<LookCase> cases;
   for (std::int32_t style = zonStyleWin9x; style <= zonStyleMac8x; ++style) {
-    // Every state by enabled, default and focus, at the usual size, in run mode.
     for (const std::int32_t state : kStates) {
+      // Every state by enabled, default and focus, at the usual size, in run mode.
       for (const bool enabled : {true, false}) {
         for (const bool isDefault : {false, true}) {
           for (const bool focus : {false, true}) {
-            LookCase c = ForStyle(style);
-            c.state = state;
-            c.enabled = enabled;
-            c.isDefault = isDefault;
-            c.focus = focus;
-            cases.push_back(c);
+            cases.push_back(Case(style, state, [&](LookCase& c) {
+              c.enabled = enabled;
+              c.isDefault = isDefault;
+              c.focus = focus;
+            }));
           }
         }
       }
       // At design time a disabled default button still shows its ring.
-      LookCase design = ForStyle(style);
-      design.state = state;
-      design.enabled = false;
-      design.isDefault = true;
-      design.designMode = true;
-      cases.push_back(design);
+      cases.push_back(Case(style, state, [](LookCase& c) {
+        c.enabled = false;
+        c.isDefault = true;
+        c.designMode = true;
+      }));
       // The extreme sizes: plain, and default with focus.
       for (const auto& [width, height] : {std::pair{5, 5}, std::pair{200, 60}}) {
         for (const bool decorated : {false, true}) {
-          LookCase sized = ForStyle(style);
-          sized.state = state;
-          sized.width = width;
-          sized.height = height;
-          sized.isDefault = decorated;
-          sized.focus = decorated;
-          cases.push_back(sized);
+          cases.push_back(Case(style, state, [&](LookCase& c) {
+            c.width = width;
+            c.height = height;
+            c.isDefault = c.focus = decorated;
+          }));
         }
       }
     }
@@ -102,44 +107,34 @@ std::vector<LookCase> AllCases() {
       // Borderless Win3x: a dotted outline at design time only, enabled or not.
       for (const bool designMode : {false, true}) {
         for (const bool enabled : {true, false}) {
-          LookCase c = ForStyle(zonStyleWin3x);
-          c.state = state;
-          c.isDefault = isDefault;
-          c.enabled = enabled;
-          c.designMode = designMode;
-          c.borderStyle = zonBorderNone;
-          cases.push_back(c);
+          cases.push_back(Case(zonStyleWin3x, state, [&](LookCase& c) {
+            c.isDefault = isDefault;
+            c.enabled = enabled;
+            c.designMode = designMode;
+            c.borderStyle = zonBorderNone;
+          }));
         }
       }
       // The flat looks on a colour of their own.
       for (const std::int32_t style : {zonStyleWin9x, zonStyleWin3x}) {
-        LookCase c = ForStyle(style);
-        c.state = state;
-        c.isDefault = isDefault;
-        c.focus = true;
-        c.peach = true;
-        cases.push_back(c);
+        cases.push_back(Case(style, state, [&](LookCase& c) {
+          c.isDefault = isDefault;
+          c.focus = c.peach = true;
+        }));
       }
       // The dormant flat mode: Win9x borders at design and run time, Win3x without a pressed
       // shadow.
-      for (const std::int32_t borderStyle : {zonBorderNone, zonBorderSingle}) {
-        for (const bool designMode : {false, true}) {
-          if (borderStyle == zonBorderSingle && designMode) continue;
-          LookCase c = ForStyle(zonStyleWin9x);
-          c.state = state;
+      for (const auto& [borderStyle, designMode] :
+           {std::pair{zonBorderNone, false}, {zonBorderNone, true}, {zonBorderSingle, false}}) {
+        cases.push_back(Case(zonStyleWin9x, state, [&](LookCase& c) {
           c.isDefault = isDefault;
-          c.focus = true;
+          c.focus = c.flat = true;
           c.borderStyle = borderStyle;
           c.designMode = designMode;
-          c.flat = true;
-          cases.push_back(c);
-        }
+        }));
       }
     }
-    LookCase win3xFlat = ForStyle(zonStyleWin3x);
-    win3xFlat.state = state;
-    win3xFlat.flat = true;
-    cases.push_back(win3xFlat);
+    cases.push_back(Case(zonStyleWin3x, state, [](LookCase& c) { c.flat = true; }));
   }
   return cases;
 }

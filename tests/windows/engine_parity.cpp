@@ -7,6 +7,7 @@
 #include "platform/native/native_engine.h"
 #include "platform/soft/soft_engine.h"
 #include "tests/support/image_compare.h"
+#include "tests/support/leak_check.h"
 
 namespace glyphon::testing {
 
@@ -62,6 +63,11 @@ void Write(const Image& image, const std::filesystem::path& path) {
 
 }  // namespace
 
+Image Captured(HDC dc) {
+  const std::optional<Image> image = CaptureDc(dc);
+  return image ? *image : Image{};
+}
+
 void PrintTo(const ParityCase& parityCase, std::ostream* out) { *out << parityCase.name; }
 
 std::string ParityCaseName(const ::testing::TestParamInfo<ParityCase>& info) {
@@ -79,12 +85,14 @@ Image RenderOnTarget(Target target, int width, int height, const std::function<v
   const RECT all{0, 0, width, height};
   FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
   paint(dc);
-  std::optional<Image> image = CaptureDc(dc);
+  Image image = Captured(dc);
   SelectObject(dc, original);
   DeleteObject(bitmap);
   DeleteDC(dc);
-  return image ? *image : Image{};
+  return image;
 }
+
+namespace {
 
 ::testing::AssertionResult EnginesAgree(const ParityCase& parityCase) {
   const Image native = RenderWith(win::native::TheNativeEngine(), parityCase);
@@ -103,5 +111,12 @@ Image RenderOnTarget(Target target, int width, int height, const std::function<v
   return result << " (soft against native; images in "
                 << std::filesystem::absolute(dir / parityCase.name).string() << ".*.png)";
 }
+
+TEST_P(EngineParity, BothEnginesPaintTheSamePixels) {
+  LeakCheck leaks;
+  EXPECT_TRUE(EnginesAgree(GetParam()));
+}
+
+}  // namespace
 
 }  // namespace glyphon::testing

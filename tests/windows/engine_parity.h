@@ -30,11 +30,15 @@ struct ParityCase {
 void PrintTo(const ParityCase& parityCase, std::ostream* out);
 std::string ParityCaseName(const ::testing::TestParamInfo<ParityCase>& info);
 
+// What the DC's bitmap holds; empty when it cannot be read.
+Image Captured(win::HDC dc);
+
 // Paints on a memory DC holding a fresh target of the given size, first filled white.
 Image RenderOnTarget(Target target, int width, int height,
                      const std::function<void(win::HDC)>& paint);
 
-// Renders through both engines, the soft one with the native system colours; equal images pass.
-::testing::AssertionResult EnginesAgree(const ParityCase& parityCase);
+// Each case renders through both engines, the soft one with the native system colours, and
+// passes when the two images are equal; suites instantiate it with their cases.
+class EngineParity : public ::testing::TestWithParam<ParityCase> {};
 
 }  // namespace glyphon::testing
