@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/automation_error.h"
+#include "tests/support/error_of.h"
 #include "tests/support/leak_check.h"
 #include "tests/surface/surface_test_support.h"
 
@@ -25,14 +26,10 @@ constexpr auto SelectedPen = Selected<win::LOGPEN, win::OBJ_PEN>;
 constexpr auto SelectedBrush = Selected<win::LOGBRUSH, win::OBJ_BRUSH>;
 
 void ExpectNoDcError(const std::function<void()>& call, const char* source) {
-  try {
-    call();
-    ADD_FAILURE() << "no error from " << source;
-  } catch (const AutomationError& error) {
-    EXPECT_EQ(error.Number(), -2147220504);
-    EXPECT_EQ(error.Source(), source);
-    EXPECT_STREQ(error.what(), "Must set hDC property before performing this operation");
-  }
+  const AutomationError error = ErrorOf(call);
+  EXPECT_EQ(error.Number(), -2147220504);
+  EXPECT_EQ(error.Source(), source);
+  EXPECT_STREQ(error.what(), "Must set hDC property before performing this operation");
 }
 
 TEST(Canvas, OnlyCreateBitmapAndInitPropertiesNeedAContext) {

@@ -7,6 +7,7 @@
 
 #include "platform/automation_error.h"
 #include "platform/soft/soft_engine.h"
+#include "tests/support/error_of.h"
 #include "tests/support/leak_check.h"
 #include "tests/surface/surface_test_support.h"
 
@@ -73,13 +74,9 @@ TEST(DibSection, CreateAndCleanupLifecycle) {
   EXPECT_EQ(dib.DIBSectionBitsPtr(), nullptr);
   EXPECT_EQ(dib.hdc(), nullptr);
   // A size the platform refuses ends in the error of the defaults, not in false.
-  try {
-    dib.Create(0, 0);
-    ADD_FAILURE() << "no error";
-  } catch (const AutomationError& error) {
-    EXPECT_EQ(error.Number(), -2147220504);
-    EXPECT_EQ(error.Source(), "Initialize");
-  }
+  const AutomationError error = ErrorOf([&] { dib.Create(0, 0); });
+  EXPECT_EQ(error.Number(), -2147220504);
+  EXPECT_EQ(error.Source(), "Initialize");
   EXPECT_EQ(dib.hdc(), nullptr);
 }
 
