@@ -68,7 +68,8 @@ TEST(OleColors, TranslatesEveryForm) {
   for (const auto& [color, expected] :
        {std::pair<OLE_COLOR, COLORREF>{0x00123456, 0x00123456},
         {0x80000005, GetSysColor(COLOR_WINDOW)}, {0x8000FF0F, GetSysColor(COLOR_BTNFACE)},
-        {0x8000001E, GetSysColor(COLOR_MENUBAR)}, {0x02ABCDEF, 0x02ABCDEF}, {0x01000007, 0x01000007}}) {
+        {0x8000001E, GetSysColor(COLOR_MENUBAR)}, {0x02ABCDEF, 0x02ABCDEF},
+        {0x01000007, 0x01000007}}) {
     COLORREF out = 0xDEADBEEF;
     EXPECT_EQ(OleTranslateColor(color, nullptr, &out), S_OK) << std::hex << color;
     EXPECT_EQ(out, expected) << std::hex << color;
