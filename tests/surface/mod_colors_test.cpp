@@ -35,7 +35,9 @@ TEST(ModColors, HlsConversionsOnTheTwoFortyScale) {
   // Channels are truncated: 127.5 gives 127.
   for (const auto& [hue, saturation, luminance, rgb] :
        {std::tuple{0.0f, 0.0f, 120.0f, RGB(127, 127, 127)},
-        {0.0f, 0.0f, 160.0f, RGB(170, 170, 170)}, {80.0f, 240.0f, 120.0f, RGB(0, 255, 0)}, {160.0f, 240.0f, 120.0f, RGB(0, 0, 255)}}) {
+        {0.0f, 0.0f, 160.0f, RGB(170, 170, 170)},
+        {80.0f, 240.0f, 120.0f, RGB(0, 255, 0)},
+        {160.0f, 240.0f, 120.0f, RGB(0, 0, 255)}}) {
     EXPECT_EQ(HLSToRGB(hue, saturation, luminance), rgb) << hue << " " << saturation;
   }
 }
