@@ -1,6 +1,3 @@
-// Block transfers on raw pixel values. Every ternary code on colour bitmaps, the transparent copy
-// through a mask, and the grow, shrink and mirror modes of stretching are also compared with the
-// system's GDI by the Windows parity tests.
 #include <gtest/gtest.h>
 
 #include "tests/platform/memory_surface.h"
@@ -115,6 +112,26 @@ TEST(Blit, OneBitSectionsUseTheirColorTables) {
   EXPECT_EQ(swapped.Get(), (Values{1, 0}));
 }
 
+TEST(Blit, TransparentCopyThroughAMonochromeMask) {
+  testing::LeakCheck leaks;
+  MemorySurface image(4, 1, 32);
+  image.Set({kRed, kMagenta, kGreen, kMagenta});
+  MemorySurface background(4, 1, 32);
+  background.Set({kBlue, kBlue, kWhite, kWhite});
+  MemorySurface mask(4, 1, 1);
+
+  SetBkColor(image.dc(), RGB(255, 0, 255));
+  SetTextColor(image.dc(), RGB(255, 255, 255));
+  BitBlt(mask.dc(), 0, 0, 4, 1, image.dc(), 0, 0, SRCCOPY);  // key pixels become 1
+  EXPECT_EQ(mask.Get(), (Values{0, 1, 0, 1}));
+  SetTextColor(image.dc(), RGB(0, 0, 0));
+  SetBkColor(image.dc(), RGB(255, 255, 255));
+  BitBlt(image.dc(), 0, 0, 4, 1, mask.dc(), 0, 0, 0x00220326);   // key pixels turn black
+  BitBlt(background.dc(), 0, 0, 4, 1, mask.dc(), 0, 0, SRCAND);  // holes where the image is
+  BitBlt(background.dc(), 0, 0, 4, 1, image.dc(), 0, 0, SRCPAINT);
+  EXPECT_EQ(background.Get(), (Values{kRed, kBlue, kGreen, kWhite}));
+}
+
 TEST(Blit, TwentyFourAndThirtyTwoBitSurfacesConvertBothWays) {
   testing::LeakCheck leaks;
   MemorySurface dib24(2, 2, 24, {});
@@ -159,14 +176,48 @@ TEST(Blit, BothSidesAreClippedAndOverlappingCopiesWithinOneSurfaceWork) {
   EXPECT_EQ(s.Get(), (Values{0, 0, 0, 0, 1 ^ 5, 1 ^ 5, 2 ^ 6, 3 ^ 7, 5, 5, 6, 7}));
 }
 
-TEST(Blit, HalftoneStretchingInterpolatesColors) {
+TEST(Blit, StretchGrowsShrinksByTheModeAndMirrors) {
   testing::LeakCheck leaks;
+  MemorySurface source(4, 2, 32);
+  source.Set({0x0F, 0xF0, 0x3C, 0xC3, 0x11, 0x22, 0x44, 0x88});
+  // Shrinking merges pixels by the stretch mode: AND by default (mode 0 here), OR, or one of
+  // them kept (the last across a row, the first down a column).
+  const struct {
+    int mode, width, height, sourceWidth, sourceHeight;
+    Values expected;
+  } cases[] = {
+      {0, 8, 1, 4, 1, {0x0F, 0x0F, 0xF0, 0xF0, 0x3C, 0x3C, 0xC3, 0xC3}},
+      {0, 2, 1, 4, 1, {0x00, 0x00}},
+      {WHITEONBLACK, 2, 1, 4, 1, {0xFF, 0xFF}},
+      {COLORONCOLOR, 2, 1, 4, 1, {0xF0, 0xC3}},
+      {COLORONCOLOR, 1, 1, 1, 2, {0x0F}},
+  };
+  for (const auto& c : cases) {
+    MemorySurface destination(c.width, c.height, 32);
+    if (c.mode != 0) SetStretchBltMode(destination.dc(), c.mode);
+    ASSERT_TRUE(StretchBlt(destination.dc(), 0, 0, c.width, c.height, source.dc(), 0, 0,
+                           c.sourceWidth, c.sourceHeight, SRCCOPY));
+    EXPECT_EQ(destination.Get(), c.expected) << "mode " << c.mode << ", " << c.width;
+  }
+
+  // HALFTONE interpolates.
   MemorySurface ramp(2, 1, 32);
   ramp.Set({0x000000, 0xFFFFFF});
   MemorySurface halftone(4, 1, 32);
   SetStretchBltMode(halftone.dc(), HALFTONE);
   ASSERT_TRUE(StretchBlt(halftone.dc(), 0, 0, 4, 1, ramp.dc(), 0, 0, 2, 1, SRCCOPY));
   EXPECT_EQ(halftone.Get(), (Values{0x000000, 0x808080, 0xFFFFFF, 0xFFFFFF}));
+
+  // A negative extent on either side mirrors.
+  MemorySurface mirrored(4, 1, 32);
+  ASSERT_TRUE(StretchBlt(mirrored.dc(), 3, 0, -4, 1, source.dc(), 0, 0, 4, 1, SRCCOPY));
+  EXPECT_EQ(mirrored.Get(), (Values{0xC3, 0x3C, 0xF0, 0x0F}));
+  mirrored.Set({0, 0, 0, 0});
+  ASSERT_TRUE(StretchBlt(mirrored.dc(), 0, 0, 4, 1, source.dc(), 3, 0, -4, 1, SRCCOPY));
+  EXPECT_EQ(mirrored.Get(), (Values{0xC3, 0x3C, 0xF0, 0x0F}));
+  MemorySurface flipped(4, 2, 32);
+  ASSERT_TRUE(StretchBlt(flipped.dc(), 0, 1, 4, -2, source.dc(), 0, 0, 4, 2, SRCCOPY));
+  EXPECT_EQ(flipped.Get(), (Values{0x11, 0x22, 0x44, 0x88, 0x0F, 0xF0, 0x3C, 0xC3}));
 }
 
 TEST(Blit, PatBltFillsWithTheBrushAndNeedsNoSource) {

@@ -1,6 +1,4 @@
-// Rectangle fills, brushes, flood fills, the focus rectangle and single pixels. Hatch patterns,
-// frames, flood fills and focus rectangles are also compared with the system's GDI by the Windows
-// parity tests.
+// Rectangle fills, brushes, flood fills, the focus rectangle and single pixels.
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -67,6 +65,44 @@ TEST(FrameRect, PaintsAOnePixelBorder) {
   EXPECT_EQ(FrameRect(s.dc(), &empty, red), 0);
   EXPECT_EQ(s.Picture({{kRed, 'r'}}),
             (Picture{"......", ".rrrr.", ".r..r.", ".r..r.", ".rrrr."}));
+}
+
+TEST(HatchBrushes, EachStyleIsItsEightByEightPattern) {
+  LeakCheck leaks;
+  const std::vector<Picture> patterns = {
+      {"........", "........", "........", "########", "........", "........", "........",
+       "........"},
+      {"....#...", "....#...", "....#...", "....#...", "....#...", "....#...", "....#...",
+       "....#..."},
+      {"#.......", ".#......", "..#.....", "...#....", "....#...", ".....#..", "......#.",
+       ".......#"},
+      {".......#", "......#.", ".....#..", "....#...", "...#....", "..#.....", ".#......",
+       "#......."},
+      {"....#...", "....#...", "....#...", "########", "....#...", "....#...", "....#...",
+       "....#..."},
+      {"#......#", ".#....#.", "..#..#..", "...##...", "...##...", "..#..#..", ".#....#.",
+       "#......#"},
+  };
+  for (int hatch = HS_HORIZONTAL; hatch <= HS_DIAGCROSS; ++hatch) {
+    RasterSurface s(8, 8);
+    Owned brush{CreateHatchBrush(hatch, RGB(0, 0, 0))};
+    Fill(s.dc(), 0, 0, 8, 8, brush);
+    EXPECT_EQ(s.Picture(), patterns[hatch]) << "hatch " << hatch;
+  }
+}
+
+TEST(HatchBrushes, AlignToTheSurfaceAndFollowTheBackgroundMode) {
+  LeakCheck leaks;
+  RasterSurface s(11, 6);
+  s.Clear(kBlue);
+  Owned brush{CreateHatchBrush(HS_CROSS, RGB(0, 0, 0))};
+  SetBkColor(s.dc(), kRed);
+  Fill(s.dc(), 3, 2, 11, 4, brush);
+  SetBkMode(s.dc(), TRANSPARENT);
+  Fill(s.dc(), 3, 4, 11, 6, brush);
+  EXPECT_EQ(s.Picture({{kRed, 'r'}, {kBlue, 'b'}}),
+            (Picture{"bbbbbbbbbbb", "bbbbbbbbbbb", "bbbr#rrrrrr", "bbb########", "bbbb#bbbbbb",
+                     "bbbb#bbbbbb"}));
 }
 
 TEST(PatternBrushes, MonochromePatternsTakeTheTextAndBackgroundColours) {
@@ -163,6 +199,20 @@ TEST(ExtFloodFill, LongWindingAreasNeedNoRecursion) {
   EXPECT_TRUE(ExtFloodFill(s.dc(), 0, 0, RGB(0, 0, 0), FLOODFILLBORDER));
   EXPECT_EQ(GetPixel(s.dc(), size - 1, size - 1), kBlue);
   EXPECT_EQ(GetPixel(s.dc(), 1, 5), RGB(0, 0, 0));
+}
+
+TEST(DrawFocusRect, InvertsEveryOtherOutlinePixelCountedFromTheTopRight) {
+  LeakCheck leaks;
+  RasterSurface s(12, 8);
+  const RECT odd{1, 1, 11, 7};
+  EXPECT_TRUE(DrawFocusRect(s.dc(), &odd));
+  EXPECT_EQ(s.Picture(), (Picture{"............", "..#.#.#.#.#.", ".#..........", "..........#.",
+                                   ".#..........", "..........#.", ".#.#.#.#.#..", "............"}));
+  // One column narrower moves the starting dot, so the corner pixel is inverted.
+  s.Clear(RGB(255, 255, 255));
+  const RECT even{1, 1, 10, 7};
+  DrawFocusRect(s.dc(), &even);
+  EXPECT_EQ(s.Picture()[1], ".#.#.#.#.#..");
 }
 
 TEST(DrawFocusRect, DrawingItTwiceRestoresThePixelsWhateverTheDcState) {

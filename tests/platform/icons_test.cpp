@@ -1,5 +1,3 @@
-// Icons beyond what the Windows parity tests compare with the system's GDI (a colour icon drawn
-// whole, as mask, as image and stretched).
 #include <gtest/gtest.h>
 
 #include "tests/platform/memory_surface.h"
@@ -28,10 +26,31 @@ HICON MakeIcon(const Values& mask, const Values& color) {
 }
 
 // The surface after drawing the icon over what it held.
-Values DrawnOver(MemorySurface& dst, const Values& under, HICON icon, UINT flags) {
+Values DrawnOver(MemorySurface& dst, const Values& under, HICON icon, UINT flags, int width = 0,
+                 int height = 0) {
   dst.Set(under);
-  EXPECT_TRUE(DrawIconEx(dst.dc(), 0, 0, icon, 0, 0, 0, nullptr, flags));
+  EXPECT_TRUE(DrawIconEx(dst.dc(), 0, 0, icon, width, height, 0, nullptr, flags));
   return dst.Get();
+}
+
+TEST(Icons, MaskThenImageComposeOverTheDestination) {
+  testing::LeakCheck leaks;
+  // Opaque red, transparent, and an inverting pixel (mask 1, white image).
+  Owned icon{MakeIcon({0, 1, 1}, {kRed, 0, kWhite})};
+  ASSERT_NE(icon, nullptr);
+  MemorySurface dst(3, 1, 32);
+  SetTextColor(dst.dc(), RGB(1, 2, 3));
+  const Values blue = {kBlue, kBlue, kBlue};
+  EXPECT_EQ(DrawnOver(dst, blue, icon, DI_NORMAL), (Values{kRed, kBlue, 0xFFFF00}));
+  EXPECT_EQ(GetTextColor(dst.dc()), RGB(1, 2, 3));  // the DC's state comes back
+  EXPECT_EQ(DrawnOver(dst, blue, icon, DI_MASK), (Values{0, kWhite, kWhite}));
+  EXPECT_EQ(DrawnOver(dst, {0, kWhite, kWhite}, icon, DI_IMAGE), (Values{kRed, 0, kWhite}));
+
+  // Stretched to the size given.
+  Owned pair{MakeIcon({0, 1}, {kRed, 0})};
+  MemorySurface wide(4, 2, 32);
+  EXPECT_EQ(DrawnOver(wide, Values(8, kGreen), pair, DI_NORMAL, 4, 2),
+            (Values{kRed, kRed, kGreen, kGreen, kRed, kRed, kGreen, kGreen}));
 }
 
 TEST(Icons, MonochromeIconsStackTheirMasks) {
@@ -40,10 +59,8 @@ TEST(Icons, MonochromeIconsStackTheirMasks) {
   Owned icon{MakeIcon({0, 1, 0, 1, /* XOR */ 0, 0, 1, 1}, {})};
   ASSERT_NE(icon, nullptr);
   MemorySurface dst(4, 1, 32);
-  SetTextColor(dst.dc(), RGB(1, 2, 3));
   EXPECT_EQ(DrawnOver(dst, Values(4, kGreen), icon, DI_NORMAL),
             (Values{0, kGreen, kWhite, 0xFF00FF}));
-  EXPECT_EQ(GetTextColor(dst.dc()), RGB(1, 2, 3));  // the DC's state comes back
   ICONINFO info{};
   ASSERT_TRUE(GetIconInfo(icon, &info));
   Owned mask{info.hbmMask};

@@ -1,7 +1,6 @@
-// Properties and edge cases of lines and shapes. The pen styles, their dash patterns and opaque
-// gaps, the sixteen mixes, and the outlines and fills of rectangles (pen and brush styles, inside
-// frames, corners either way round), ellipses and round rectangles are compared with the system's
-// GDI by the Windows parity tests.
+// Lines and shapes to the pixel: pen styles with their dash patterns and opaque gaps, the
+// sixteen mixes, and the outlines and fills of rectangles, ellipses and round rectangles. The
+// Windows parity tests compare the same drawings with the system's GDI.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -108,6 +107,73 @@ TEST(LineTo, HugeCoordinatesAreClippedBeforeStepping) {
   EXPECT_NE(picture[4].find('#'), std::string::npos);
 }
 
+TEST(LineTo, CosmeticDashPatternsRestartWithEachCallAndFillGapsWhenOpaque) {
+  LeakCheck leaks;
+  const std::pair<int, const char*> cases[] = {
+      {PS_SOLID, "##############################."},
+      {PS_DASH, "##################......######."},
+      {PS_DOT, "###...###...###...###...###...."},
+      {PS_DASHDOT, "#########......###......######."},
+      {PS_DASHDOTDOT, "#########...###...###...######."},
+      {PS_NULL, "..............................."},
+  };
+  for (const auto& [style, expected] : cases) {
+    RasterSurface s(31, 1);
+    s.UsePen(style, 1, RGB(0, 0, 0));
+    Line(s.dc(), 0, 0, 30, 0);
+    EXPECT_EQ(s.Picture()[0], expected) << "style " << style;
+  }
+  RasterSurface s(24, 3);
+  s.UsePen(PS_DASH, 1, RGB(0, 0, 0));
+  MoveToEx(s.dc(), 0, 0, nullptr);
+  LineTo(s.dc(), 10, 0);
+  LineTo(s.dc(), 20, 0);
+  s.UsePen(PS_DOT, 1, RGB(0, 0, 0));
+  SetBkColor(s.dc(), RGB(255, 0, 0));
+  Line(s.dc(), 0, 1, 12, 1);
+  SetBkMode(s.dc(), TRANSPARENT);
+  Line(s.dc(), 0, 2, 12, 2);
+  const auto p = s.Picture({{RGB(255, 0, 0), 'r'}});
+  EXPECT_EQ(p[0], "####################....");
+  EXPECT_EQ(p[1], "###rrr###rrr............");
+  EXPECT_EQ(p[2], "###...###...............");
+}
+
+TEST(LineTo, DashesRunFromTheStartPointInEveryDirection) {
+  LeakCheck leaks;
+  RasterSurface s(31, 31);
+  s.UsePen(PS_DASHDOT, 1, RGB(0, 0, 0));
+  Line(s.dc(), 30, 0, 0, 0);
+  EXPECT_EQ(s.Picture()[0], ".######......###......#########");
+  Line(s.dc(), 0, 1, 0, 30);
+  Line(s.dc(), 2, 2, 30, 30);
+  const auto p = s.Picture();
+  std::string column, diagonal;
+  for (int i = 1; i < 30; ++i) column += p[i][0];
+  for (int i = 2; i < 30; ++i) diagonal += p[i][i];
+  EXPECT_EQ(column, "#########......###......#####");
+  EXPECT_EQ(diagonal, "#########......###......####");
+}
+
+TEST(LineTo, AllSixteenMixesWorkOnDevicePixels) {
+  LeakCheck leaks;
+  const COLORREF destination = RGB(0x55, 0xAA, 0x0F), pen = RGB(0xF0, 0xCC, 0x33);
+  const unsigned d = 0x55AA0F, p = 0xF0CC33;
+  const unsigned expected[17] = {0,       0,        ~(d | p), ~p & d,  ~p,     p & ~d,
+                                 ~d,      p ^ d,    ~(p & d), p & d,   ~(p ^ d),
+                                 d,       ~p | d,   p,        p | ~d,  p | d,  ~0u};
+  for (int rop = R2_BLACK; rop <= R2_WHITE; ++rop) {
+    RasterSurface s(3, 1);
+    s.Clear(destination);
+    s.UsePen(PS_SOLID, 1, pen);
+    SetROP2(s.dc(), rop);
+    Line(s.dc(), 0, 0, 2, 0);
+    const unsigned want = expected[rop];
+    EXPECT_EQ(GetPixel(s.dc(), 1, 0), RGB(want >> 16, want >> 8, want)) << "rop2 " << rop;
+    EXPECT_EQ(GetPixel(s.dc(), 2, 0), destination);
+  }
+}
+
 TEST(LineTo, WidePensHaveRoundEndsAndDrawDashedStylesSolid) {
   LeakCheck leaks;
   RasterSurface s(12, 7);
@@ -197,6 +263,76 @@ TEST(Shapes, BadDcsAreRefused) {
   EXPECT_FALSE(Rectangle(dc, 0, 0, 4, 4));
   EXPECT_FALSE(Ellipse(dc, 0, 0, 4, 4));
   EXPECT_FALSE(RoundRect(nullptr, 0, 0, 4, 4, 2, 2));
+}
+
+TEST(Rectangle, OutlinesWithThePenAndFillsTheInsideExclusively) {
+  LeakCheck leaks;
+  RasterSurface s(7, 6);
+  s.UseBrush(CreateSolidBrush(kRed));
+  EXPECT_TRUE(Rectangle(s.dc(), 6, 5, 1, 1));  // corners in any order
+  EXPECT_EQ(s.Picture({{kRed, 'r'}}),
+            (Picture{".......", ".#####.", ".#rrr#.", ".#rrr#.", ".#####.", "......."}));
+
+  // A null pen fills one row and column less; a null brush leaves the inside.
+  s.Clear(RGB(255, 255, 255));
+  SelectObject(s.dc(), GetStockObject(NULL_PEN));
+  Rectangle(s.dc(), 1, 1, 6, 5);
+  EXPECT_EQ(s.Picture({{kRed, 'r'}}),
+            (Picture{".......", ".rrrr..", ".rrrr..", ".rrrr..", ".......", "......."}));
+
+  s.Clear(RGB(255, 255, 255));
+  s.UsePen(PS_SOLID, 1, RGB(0, 0, 0));
+  SelectObject(s.dc(), GetStockObject(NULL_BRUSH));
+  Rectangle(s.dc(), 1, 1, 6, 5);
+  EXPECT_EQ(s.Picture()[2], ".#...#.");
+  // No area, nothing drawn.
+  s.Clear(RGB(255, 255, 255));
+  Rectangle(s.dc(), 3, 1, 3, 5);
+  Rectangle(s.dc(), 1, 2, 6, 2);
+  EXPECT_EQ(s.Picture(), Picture(6, "......."));
+}
+
+TEST(Rectangle, DotsRunAnticlockwiseFromTheTopRightCorner) {
+  LeakCheck leaks;
+  RasterSurface s(8, 6);
+  s.UsePen(PS_DOT, 1, RGB(0, 0, 0));
+  SelectObject(s.dc(), GetStockObject(NULL_BRUSH));
+  Rectangle(s.dc(), 0, 0, 8, 6);
+  EXPECT_EQ(s.Picture(),
+            (Picture{"##...###", "#.......", "........", "........", ".......#", "###...##"}));
+}
+
+TEST(Rectangle, InsideFramePensStayInsideTheRectangle) {
+  LeakCheck leaks;
+  RasterSurface s(14, 14);
+  s.UsePen(PS_INSIDEFRAME, 4, RGB(0, 0, 0));
+  SelectObject(s.dc(), GetStockObject(NULL_BRUSH));
+  Rectangle(s.dc(), 2, 2, 12, 12);
+  const Picture p = s.Picture();
+  for (int y = 0; y < 14; ++y) {
+    for (int x = 0; x < 14; ++x) {
+      if (x < 2 || x >= 12 || y < 2 || y >= 12) {
+        EXPECT_EQ(p[y][x], '.') << x << "," << y;
+      }
+    }
+  }
+  EXPECT_EQ(p[6].substr(2, 10), "####..####");
+}
+
+TEST(Ellipse, SmallCircleAndRoundedCornersOutlineOverTheirFill) {
+  LeakCheck leaks;
+  RasterSurface s(8, 6);
+  s.UseBrush(CreateSolidBrush(kRed));
+  Ellipse(s.dc(), 0, 0, 5, 5);
+  EXPECT_EQ(s.Picture({{kRed, 'r'}}), (Picture{".###....", "#rrr#...", "#rrr#...", "#rrr#...",
+                                               ".###....", "........"}));
+  // Round corners follow the ellipse; corners too small for a pixel give a rectangle.
+  RoundRect(s.dc(), 0, 0, 8, 6, 4, 4);
+  EXPECT_EQ(s.Picture({{kRed, 'r'}}), (Picture{".######.", "#rrrrrr#", "#rrrrrr#", "#rrrrrr#",
+                                               "#rrrrrr#", ".######."}));
+  s.Clear(RGB(255, 255, 255));
+  RoundRect(s.dc(), 0, 0, 8, 6, 2, 9);
+  EXPECT_EQ(s.Picture({{kRed, 'r'}})[0], "########");
 }
 
 }  // namespace
