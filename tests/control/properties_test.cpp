@@ -121,6 +121,7 @@ TEST_F(PropertiesTest, StyleForcesClassicSettingsOnly) {
 }
 
 TEST_F(PropertiesTest, PictureRuleAcceptsBitmapsAndIconsOnly) {
+  Glyphon& b = button_;
   const StdPicture bitmap = StdPicture::FromBitmap(nullptr, false);
   const StdPicture metafile = StdPicture::Metafile(win::PICTYPE_METAFILE, 100, 100);
   const StdPicture enhanced = StdPicture::Metafile(win::PICTYPE_ENHMETAFILE, 100, 100);
@@ -140,22 +141,22 @@ TEST_F(PropertiesTest, PictureRuleAcceptsBitmapsAndIconsOnly) {
        "PictureDisabled"},
   };
   for (const Case& c : cases) {
-    (button_.*c.set)(bitmap);
-    EXPECT_EQ((button_.*c.get)(), bitmap) << c.name;
+    (b.*c.set)(bitmap);
+    EXPECT_EQ((b.*c.get)(), bitmap) << c.name;
     host_.ClearLog();
     for (const StdPicture& refused : {metafile, enhanced}) {
-      const AutomationError error = ErrorOf([&] { (button_.*c.set)(refused); });
+      const AutomationError error = ErrorOf([&] { (b.*c.set)(refused); });
       EXPECT_EQ(error.Number(), kControlErrorNumber);
       EXPECT_EQ(error.Source(), c.source) << c.name;
       EXPECT_EQ(error.Description(),
                 "Picture, PictureOver, PictureDown, and PictureDisabled Properties must be "
                 "Bitmap or Icon.");
-      EXPECT_EQ((button_.*c.get)(), bitmap) << c.name << " kept";
+      EXPECT_EQ((b.*c.get)(), bitmap) << c.name << " kept";
     }
     EXPECT_EQ(host_.Log(), Log{}) << c.name;
 
-    (button_.*c.set)(StdPicture::Empty());
-    EXPECT_TRUE((button_.*c.get)().IsNothing()) << c.name << ": an empty picture clears";
+    (b.*c.set)(StdPicture::Empty());
+    EXPECT_TRUE((b.*c.get)().IsNothing()) << c.name << ": an empty picture clears";
   }
 }
 
