@@ -3,13 +3,12 @@
 
 #include "content/paint_effects.h"
 #include "content/scratch_surface.h"
+#include "surface/named_colors.h"
 
 namespace glyphon {
 
 namespace {
 
-constexpr win::COLORREF kBlack = win::RGB(0, 0, 0);
-constexpr win::COLORREF kWhite = win::RGB(255, 255, 255);
 constexpr win::RGBQUAD kBlackEntry{0, 0, 0, 0};
 constexpr win::RGBQUAD kWhiteEntry{255, 255, 255, 0};
 

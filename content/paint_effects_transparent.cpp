@@ -1,12 +1,11 @@
 // PaintEffects: the copy that keys one colour out, with whole-rectangle raster operations only.
 #include "content/paint_effects.h"
 #include "content/scratch_surface.h"
+#include "surface/named_colors.h"
 
 namespace glyphon {
 
 namespace {
-constexpr win::COLORREF kBlack = win::RGB(0, 0, 0);
-constexpr win::COLORREF kWhite = win::RGB(255, 255, 255);
 constexpr win::DWORD kDestinationAndNotSource = 0x00220326;
 }  // namespace
 

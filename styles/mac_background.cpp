@@ -4,13 +4,13 @@
 #include "styles/canvas_steps.h"
 #include "styles/look_painters.h"
 #include "surface/canvas.h"
+#include "surface/named_colors.h"
 
 namespace glyphon {
 
 namespace {
 
 constexpr win::COLORREF kFace = win::RGB(221, 221, 221);
-constexpr win::COLORREF kBlack = win::RGB(0, 0, 0);
 
 // A flat body with a black outline whose corner pixels are stepped in.
 void PaintDisabledBody(Canvas& canvas, int w, int h) {

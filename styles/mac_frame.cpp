@@ -6,19 +6,18 @@
 #include "styles/look_painters.h"
 #include "styles/margins.h"
 #include "surface/canvas.h"
+#include "surface/named_colors.h"
 
 namespace glyphon {
 
 namespace {
 
-constexpr win::COLORREF kBlack = win::RGB(0, 0, 0);
 constexpr win::COLORREF kGrey119 = win::RGB(119, 119, 119);
 constexpr win::COLORREF kGrey136 = win::RGB(136, 136, 136);
 constexpr win::COLORREF kGrey170 = win::RGB(170, 170, 170);
 constexpr win::COLORREF kGrey187 = win::RGB(187, 187, 187);
 constexpr win::COLORREF kGrey204 = win::RGB(204, 204, 204);
 constexpr win::COLORREF kGrey221 = win::RGB(221, 221, 221);
-constexpr win::COLORREF kWhite = win::RGB(255, 255, 255);
 
 // The ring takes the three outermost pixels of the canvas.
 void DrawDefaultRing(Canvas& canvas, int w, int h) {

@@ -3,10 +3,11 @@
 // A disabled button keeps what its background drew.
 #include "content/glyphon_constants.h"
 #include "styles/canvas_steps.h"
-#include "styles/xp_outline.h"
 #include "styles/look_painters.h"
 #include "styles/margins.h"
+#include "styles/xp_outline.h"
 #include "surface/canvas.h"
+#include "surface/named_colors.h"
 
 namespace glyphon {
 
@@ -30,8 +31,6 @@ constexpr XPFrameColors kOliveGreen{win::RGB(49, 97, 0),      win::RGB(115, 138,
                                     win::RGB(74, 109, 33),    win::RGB(214, 199, 181),
                                     win::RGB(214, 199, 181), win::RGB(231, 223, 181)};
 
-constexpr win::COLORREF kWhite = win::RGB(255, 255, 255);
-constexpr win::COLORREF kBlack = win::RGB(0, 0, 0);
 
 void DrawSilverPressedHighlights(Canvas& canvas, int w, int h) {
   canvas.DrawLine(1, 1, 1, h - 3, kWhite);

@@ -5,12 +5,12 @@
 #include "styles/look_painters.h"
 #include "styles/xp_disabled_face.h"
 #include "surface/canvas.h"
+#include "surface/named_colors.h"
 
 namespace glyphon {
 
 namespace {
 
-constexpr win::COLORREF kWhite = win::RGB(255, 255, 255);
 constexpr win::COLORREF kFaceTop = kWhite;
 constexpr win::COLORREF kFaceMiddle = win::RGB(231, 231, 247);
 constexpr win::COLORREF kFaceBottom = win::RGB(173, 170, 189);
